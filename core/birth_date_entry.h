@@ -1,0 +1,16 @@
+// The name and birth-date fields: each key acts at once, repairs the date, moves the focus on,
+// sets the age to 1 and marks the grid as stale. A date is never refused.
+#pragma once
+
+namespace navarun {
+
+class Program;
+
+/// The common repair after a change of day, month or year: keeps the day inside its month,
+/// rebuilds the date and the first cycle year.
+void annee99(Program& program);
+
+/// The keys, changes, choices and leaves of the fields, and the button of the present age.
+void wire_birth_date_entry(Program& program);
+
+}  // namespace navarun

@@ -1,0 +1,111 @@
+// Day serials and date texts.
+#include "core/calendar.h"
+
+#include <algorithm>
+
+#include "core/text.h"
+
+namespace navarun {
+
+namespace {
+
+using std::chrono::day;
+using std::chrono::month;
+using std::chrono::months;
+using std::chrono::year;
+using std::chrono::year_month_day;
+using std::chrono::years;
+
+constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
+
+std::string_view without_blanks_at(std::string_view text, bool front, bool back) {
+    while (front && !text.empty() && text.front() == ' ') text.remove_prefix(1);
+    while (back && !text.empty() && text.back() == ' ') text.remove_suffix(1);
+    return text;
+}
+
+// A field of digits alone, of at most `digits` of them; -1 for anything else.
+int read_field(std::string_view text, std::size_t digits) {
+    if (text.empty() || text.size() > digits || !std::ranges::all_of(text, is_digit)) return -1;
+    return text::number_of(text);
+}
+
+Date clipped(std::chrono::year_month in_month, day wanted) {
+    auto const last = std::chrono::year_month_day_last{
+        in_month.year(), std::chrono::month_day_last{in_month.month()}};
+    return in_month / std::min(wanted, last.day());
+}
+
+void put_digits(std::string& text, std::size_t at, std::size_t count, int number) {
+    for (std::size_t i = count; i-- > 0; number /= 10) {
+        text[at + i] = static_cast<char>('0' + number % 10);
+    }
+}
+
+}  // namespace
+
+std::optional<Date> date_of(int day_number, int month_number, int year_number) {
+    if (day_number < 1 || day_number > 31 || month_number < 1 || month_number > 12 ||
+        year_number < 1 || year_number > 9999) {
+        return {};
+    }
+    return clipped(year{year_number} / month{static_cast<unsigned>(month_number)},
+                   day{static_cast<unsigned>(day_number)});
+}
+
+std::optional<Date> read_date(std::string_view text) {
+    auto const first = text.find('/');
+    if (first == std::string_view::npos) return {};
+    auto const second = text.find('/', first + 1);
+    if (second == std::string_view::npos) return {};
+    auto const day_text = without_blanks_at(text.substr(0, first), false, true);
+    auto const month_text =
+        without_blanks_at(text.substr(first + 1, second - first - 1), true, true);
+    auto const year_text = without_blanks_at(text.substr(second + 1), true, false);
+    return date_of(read_field(day_text, 2), read_field(month_text, 2),
+                   read_field(year_text, 4));
+}
+
+std::string write_date(Date date) {
+    year_month_day const parts{date};
+    std::string text = "00/00/0000";
+    put_digits(text, 0, 2, static_cast<int>(unsigned{parts.day()}));
+    put_digits(text, 3, 2, static_cast<int>(unsigned{parts.month()}));
+    put_digits(text, 6, 4, int{parts.year()});
+    return text;
+}
+
+int year_of(Date date) { return int{year_month_day{date}.year()}; }
+
+int month_of(Date date) { return static_cast<int>(unsigned{year_month_day{date}.month()}); }
+
+int day_of(Date date) { return static_cast<int>(unsigned{year_month_day{date}.day()}); }
+
+int weekday_of(Date date) {
+    return static_cast<int>(std::chrono::weekday{date}.c_encoding()) + 1;
+}
+
+Date add_months(Date date, int count) {
+    year_month_day const parts{date};
+    return clipped(parts.year() / parts.month() + months{count}, parts.day());
+}
+
+Date add_years(Date date, int count) {
+    year_month_day const parts{date};
+    return clipped((parts.year() + years{count}) / parts.month(), parts.day());
+}
+
+int days_between(Date from, Date to) { return static_cast<int>((to - from).count()); }
+
+bool is_leap_day(std::string_view date_text) { return date_text.starts_with("29/02"); }
+
+std::string fevrier29(std::string date_text) {
+    if (date_text.size() < 10) return date_text;
+    std::string_view const view = date_text;
+    int const in_month = text::number_of(view.substr(3, 2));
+    int const in_year = text::number_of(view.substr(6));
+    if (in_month != 2 || Bissextile_G(in_year)) date_text.replace(0, 2, "29");
+    return date_text;
+}
+
+}  // namespace navarun

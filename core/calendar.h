@@ -1,0 +1,66 @@
+// The proleptic Gregorian calendar, and the date text dd/mm/yyyy in which every date is shown.
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace navarun {
+
+/// A day serial of the proleptic Gregorian calendar.
+using Date = std::chrono::sys_days;
+
+/// The day of `day`/`month`/`year`; a day beyond the end of its month is the month's last.
+/// No date where month is outside 1..12, day outside 1..31 or year outside 1..9999.
+std::optional<Date> date_of(int day, int month, int year);
+
+/// Reads a date text: day, month and year by the strokes, whatever the locale. Blanks round a
+/// stroke are skipped; the year is the number written. Anything else is no date.
+std::optional<Date> read_date(std::string_view text);
+/// The date text: two, two and four digits.
+std::string write_date(Date date);
+
+int year_of(Date date);
+/// 1..12
+int month_of(Date date);
+/// 1..31
+int day_of(Date date);
+/// 1 for Sunday to 7 for Saturday.
+int weekday_of(Date date);
+
+/// The calendar addition: the day of the month stays, clipped to the last day of the target
+/// month (29/02/1952 plus one year is 28/02/1953).
+Date add_months(Date date, int months);
+Date add_years(Date date, int years);
+/// Whole days from `from` to `to`; negative where `to` lies before.
+int days_between(Date from, Date to);
+
+/// Whether `year` is leap in the Gregorian calendar.
+constexpr bool Bissextile_G(int year) {
+    return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
+}
+
+/// Days of a month: 31 for every number that is no shorter month, also outside 1..12.
+constexpr int NbrJours(int month, int year) {
+    switch (month) {
+        case 2:
+            return Bissextile_G(year) ? 29 : 28;
+        case 4:
+        case 6:
+        case 9:
+        case 11:
+            return 30;
+        default:
+            return 31;
+    }
+}
+
+/// Whether a date text begins with 29/02: the birthday that most years do not have.
+bool is_leap_day(std::string_view date_text);
+
+/// The month dates of a person born on 29 February: `date_text` with the day 29, except in
+/// February of a common year. A text too short for a date comes back as it is.
+std::string fevrier29(std::string date_text);
+
+}  // namespace navarun

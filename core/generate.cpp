@@ -1,0 +1,57 @@
+// The pipeline of a generation, in its order.
+#include "core/generate.h"
+
+#include "periods/age_scroll.h"
+#include "periods/maha_dasha.h"
+#include "periods/partial_cycle.h"
+#include "periods/tri_deva.h"
+#include "periods/year_month_lords.h"
+#include "shell/program.h"
+#include "zodiac/solar_position.h"
+
+namespace navarun {
+
+using screen::standard_colour;
+
+void generate(Program& program) {
+    auto& form = program.form1;
+    if (!read_date(program.consultation.birth.date_naissance())) {
+        program.platform.box("Erreur", "Date de naissance invalide !", BoxButtons::ok);
+        return;
+    }
+    form.Picture_KUNDALI.Picture =
+        screen::Picture{"Image_Kundali", program.settings.couleur_kundali};
+    change_couleurAge(program, "vert");
+    CyclePartiel_annule(program);
+    form.Mnuperiode.Enabled = true;
+    cycle(program);
+    Position_solaire(program);
+    seigneur_annee(program);
+    Seigneur_Mois(program);
+    Maha_Dasha(program);
+    defile_MahaDasha(program);
+    triDeva(program);
+}
+
+void cycle(Program& program) {
+    auto& form = program.form1;
+    for (int i = 1; i <= 12; ++i) {
+        form.Label_annee(i).Caption = "";
+        form.Label_Solaire(i).Visible = false;
+        // The literal 1 in all twelve; Position_solaire gives each its number afterwards.
+        form.Label_Solaire(i).Caption = "1";
+        form.Label_Dasha(i).ForeColor = standard_colour(6);
+        form.Label_DashaDate(i).ForeColor = standard_colour(6);
+        form.Label_mois(i).ForeColor = standard_colour(6);
+        form.Label_MoisDate(i).ForeColor = screen::grey;
+        form.Label_Dasha(i).FontBold = false;
+        form.Label_mois(i).FontBold = false;
+    }
+    change_couleurAge(program, "vert");
+}
+
+void wire_generate(Program& program) {
+    program.form1.Command2.on_click = [&program] { generate(program); };
+}
+
+}  // namespace navarun

@@ -1,0 +1,102 @@
+// The first calculation and the last question.
+#include "core/start_up.h"
+
+#include "core/dialogue.h"
+#include "core/text.h"
+#include "periods/age_scroll.h"
+#include "periods/maha_dasha.h"
+#include "periods/tri_deva.h"
+#include "periods/year_month_lords.h"
+#include "shell/image_store.h"
+#include "shell/program.h"
+#include "zodiac/number_texts.h"
+#include "zodiac/solar_position.h"
+
+namespace navarun {
+
+namespace {
+
+// The program's own site first (the distributor sets the real one), then sites of history and
+// biography for the practitioner's research.
+constexpr std::array<std::string_view, 10> default_addresses{
+    "www.navarun.example", "fr.wikipedia.org", "www.herodote.net", "www.larousse.fr",
+    "www.universalis.fr",  "gallica.bnf.fr",   "data.bnf.fr",      "www.britannica.com",
+    "www.biography.com",   "www.geneanet.org",
+};
+
+void give_pictures(Form1& form) {
+    for (int cell = 1; cell <= 12; ++cell) {
+        form.Label_mois(cell).MouseIcon = picture::hand_cursor;
+        form.Label_Dasha(cell).MouseIcon = picture::hand_cursor;
+        form.Label_Solaire(cell).MouseIcon = picture::hand_cursor;
+    }
+    form.Picture_PHOTO.MouseIcon = picture::hand_cursor;
+    form.Command_Disk_Vert.Picture = picture::saved;
+    form.Command_reset.Picture = picture::begin_anew;
+    form.Picture_PHOTO.Picture = picture::ganesha;
+    form.Charge(1).Picture = screen::Picture{"DOSSIER", 1};
+    form.Charge(1).ToolTipText = "Dossier 1 Actif";
+    form.Charge(2).Picture = screen::Picture{"DOSSIER", 4};
+    form.Charge(2).ToolTipText = "Dossier 2 Inactif";
+}
+
+void set_first_date(Program& program) {
+    auto& form = program.form1;
+    auto& birth = program.consultation.birth;
+    birth.set_jour_naissance("01");
+    birth.set_mois_naissance("01");
+    birth.set_siecle_naissance("19");
+    birth.set_annee_naissance("00");
+    form.Combo_jourNaiss.Text = birth.jour_naissance();
+    form.Combo_moisNaiss.Text = birth.mois_naissance();
+    form.Combo_AnNaiss1.Text = birth.siecle_naissance();
+    form.Combo_AnNaiss2.Text = birth.annee_naissance();
+}
+
+}  // namespace
+
+void Form_Load(Program& program) {
+    auto& form = program.form1;
+    auto& consultation = program.consultation;
+    auto& birth = consultation.birth;
+    std::ranges::copy(default_addresses, program.url_defaut.begin());
+    give_pictures(form);
+    program.periods.cycle_partiel_actif = false;
+    form.HScroll_age.Maximum = greatest_age;
+    set_first_date(program);
+    consultation.age_courant = 1;
+    consultation.annee_solaire = "1900";
+    // The blanks round the stroke stay until the day or month is next written.
+    birth.reword_jour_mois_anniv(birth.jour_naissance() + " / " + birth.mois_naissance());
+    Date const date = *read_date(birth.date_naissance());
+    Date const first_day = add_years(date, consultation.age_courant);
+    Date const last_day_before = first_day - std::chrono::days{1};
+    form.Label_anneedefile.Caption = write_date(first_day);
+    consultation.fin_annee_defile = last_day_before;
+    form.Label_anneedefile_Suite.Caption = write_date(add_years(last_day_before, 1));
+    // So that the grid can turn true at the end.
+    form.HScroll_age.Tag = "ROUGE";
+    Position_solaire(program);
+    seigneur_annee(program);
+    Seigneur_Mois(program);
+    Maha_Dasha(program);
+    defile_MahaDasha(program);
+    Dinaka_Punanka_Text(program);
+    change_couleurAge(program, "vert");
+    triDeva(program);
+}
+
+void Quitter_Navarun(Program& program) {
+    program.dialogue.titre_dialogue = "QUITTER";
+    program.dialogue.texte_dialogue = "VOULEZ-VOUS QUITTER N.A.V.A.R.U.N ?";
+    boiteDialogue(program);
+    if (program.dialogue.reponse_dialogue == 1) throw ProgramEnded{};
+}
+
+void wire_start_up(Program& program) {
+    // Closing by the frame asks as well, and the window stays where the user declines.
+    program.form1.on_close = [&program] { Quitter_Navarun(program); };
+    program.form1.MnuQuitter.on_click = [&program] { Quitter_Navarun(program); };
+}
+
+}  // namespace navarun

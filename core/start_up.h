@@ -1,0 +1,18 @@
+// Bringing the main window up, and leaving the program.
+#pragma once
+
+namespace navarun {
+
+class Program;
+
+/// Fills the fixed values, sets the date 01/01/1900 and runs one whole calculation, so that the
+/// window opens on a finished grid.
+void Form_Load(Program& program);
+
+/// Asks, and ends the program where the user agrees: throws ProgramEnded. Nothing is saved.
+void Quitter_Navarun(Program& program);
+
+/// The menu entry and the frame of the window both leave.
+void wire_start_up(Program& program);
+
+}  // namespace navarun

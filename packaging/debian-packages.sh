@@ -1,0 +1,35 @@
+# The Debian packages that the house needs, and how to install those that are missing.
+# Sourced by ./run and ./test.
+
+build_packages=(
+    g++ cmake ninja-build ccache
+    qt6-base-dev qt6-svg-dev
+    nlohmann-json3-dev
+)
+run_packages=(
+    qt6-qpa-plugins qt6-translations-l10n
+    fonts-liberation
+)
+virtual_display_packages=(
+    xvfb xdotool imagemagick
+)
+test_packages=(
+    libgtest-dev libgmock-dev libbenchmark-dev
+    xvfb xdotool imagemagick openbox
+)
+
+# Installs those of the given packages that are not there; by sudo where this is not root.
+install_packages() {
+    local missing=() package as_root=()
+    for package in "$@"; do
+        if [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" != installed ]; then
+            missing+=("$package")
+        fi
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+    if [ "$(id -u)" -ne 0 ]; then as_root=(sudo); fi
+    echo "Installation de : ${missing[*]}"
+    "${as_root[@]}" apt-get update -qq
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}

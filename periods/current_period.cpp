@@ -1,0 +1,52 @@
+// Marking the period's row.
+#include "periods/current_period.h"
+
+#include "periods/cycle_lords.h"
+#include "periods/emphasis.h"
+#include "periods/step_in_progress.h"
+#include "shell/program.h"
+
+namespace navarun {
+
+void Trouve_ActuelMahaDasha(Program& program) {
+    auto& form = program.form1;
+    auto& consultation = program.consultation;
+    auto const anniversary = read_date(form.Label_anneedefile.Caption.get());
+    if (!anniversary) return;
+    CellDates dates;
+    for (int cell = 1; cell <= 12; ++cell) {
+        dates[static_cast<std::size_t>(cell - 1)] =
+            read_date(form.Label_DashaDate(cell).Caption.get());
+    }
+    Date const today = program.platform.today();
+    if (in_year_in_progress(*anniversary, today)) {
+        // Where no sequence had a case, the column may stand at 0 for cell 12.
+        int const start = consultation.colonne_age_mod == 0 ? 12 : consultation.colonne_age_mod;
+        int const after = cell_after_today(dates, start, today);
+        int const marked = cell_before(after);
+        emphasise(form.Label_Dasha(marked));
+        form.Label_DashaDate(marked).ForeColor = screen::black;
+        // The cell after the marked one: the partial view and the report read it so.
+        consultation.colonne_dasha = after;
+        return;
+    }
+    auto const cell = cell_starting_on(dates, *anniversary);
+    if (!cell) return;
+    // The period's start cell has its colour already and needs no mark.
+    if (form.Label_Dasha(*cell).ForeColor.get() == program.periods.couleur_dasha) return;
+    form.Label_DashaDate(*cell).ForeColor = screen::black;
+    emphasise(form.Label_Dasha(*cell));
+    consultation.colonne_dasha = *cell;
+}
+
+void wire_current_period(Program& program) {
+    for (int cell = 1; cell <= 12; ++cell) {
+        program.form1.Label_Dasha(cell).on_click = [&program, cell] {
+            auto& form = program.form1;
+            pick_by_hand(form.Label_Dasha, form.Label_DashaDate, cell);
+            program.consultation.colonne_dasha = cell;
+        };
+    }
+}
+
+}  // namespace navarun

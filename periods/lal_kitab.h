@@ -1,0 +1,18 @@
+// The caption that tells which lord rules an age and which of his years it is.
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace navarun {
+
+struct LalKitab {
+    std::string caption;
+    int year_rank;  // 0 for Chandra, who has one year alone
+};
+
+/// @param column  the sequence, 1..9
+/// @return empty where the sequence has no case for `age`. Age 351 is as age 1.
+std::optional<LalKitab> lal_kitab(int column, int age);
+
+}  // namespace navarun

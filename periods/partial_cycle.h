@@ -1,0 +1,18 @@
+// The grid reduced to the three selected cycles.
+#pragma once
+
+namespace navarun {
+
+class Program;
+
+/// Shows the selected period and month alone, or the whole rows again, by
+/// `cycle_partiel_actif`.
+void Cycle_partiel(Program& program);
+
+/// Ends the reduced view where it is on.
+void CyclePartiel_annule(Program& program);
+
+/// The button switches the view.
+void wire_partial_cycle(Program& program);
+
+}  // namespace navarun

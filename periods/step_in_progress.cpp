@@ -1,0 +1,31 @@
+// The searches round the grid.
+#include "periods/step_in_progress.h"
+
+#include "periods/cycle_lords.h"
+
+namespace navarun {
+
+bool in_year_in_progress(Date anniversary, Date today) {
+    int const days = days_between(anniversary, today);
+    return days >= 1 && days <= 366;
+}
+
+int cell_after_today(CellDates const& dates, int start_cell, Date today) {
+    int cell = start_cell;
+    do {
+        auto const& date = dates[static_cast<std::size_t>(cell - 1)];
+        if (date && today < *date) return cell;
+        cell = cell_after(cell);
+    } while (cell != start_cell);
+    // Today lies in the last step, whose end is the start cell.
+    return start_cell;
+}
+
+std::optional<int> cell_starting_on(CellDates const& dates, Date anniversary) {
+    for (int cell = 1; cell <= 12; ++cell) {
+        if (dates[static_cast<std::size_t>(cell - 1)] == anniversary) return cell;
+    }
+    return {};
+}
+
+}  // namespace navarun

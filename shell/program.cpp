@@ -1,0 +1,51 @@
+// Wiring, start and the one place where a fatal error is told.
+#include "shell/program.h"
+
+#include "core/birth_date_entry.h"
+#include "core/generate.h"
+#include "core/julian_mode.h"
+#include "core/start_up.h"
+#include "periods/age_scroll.h"
+#include "periods/current_period.h"
+#include "periods/partial_cycle.h"
+#include "periods/year_month_lords.h"
+#include "zodiac/solar_position.h"
+
+namespace navarun {
+
+Program::Program(Platform& platform_, std::filesystem::path application_folder_)
+    : platform{platform_}, application_folder{std::move(application_folder_)} {
+    wire_generate(*this);
+    wire_start_up(*this);
+    wire_birth_date_entry(*this);
+    wire_julian_mode(*this);
+    wire_solar_position(*this);
+    wire_current_period(*this);
+    wire_year_month_lords(*this);
+    wire_age_scroll(*this);
+    wire_partial_cycle(*this);
+}
+
+void Program::start() {
+    event([this](screen::User& acting) {
+        form1.Visible = true;
+        Form_Load(*this);
+        acting.focus(form1.Text_prenom);
+    });
+}
+
+std::string_view Program::name_of_lord(int lord) const {
+    int const entry = lord - 1 + settings.decalage_nom_seigneur;
+    if (entry < 0) {
+        throw FatalError{"Le nom d'un seigneur a été demandé avant qu'aucun ne règne.",
+                         "L'indice n'appartient pas à la sélection."};
+    }
+    return noms_seigneurs.at(static_cast<std::size_t>(entry));
+}
+
+void Program::report(FatalError const& error) {
+    if (std::exchange(m_reported, true)) return;
+    platform.box("N.A.V.A.R.U.N", error.what(), BoxButtons::ok);
+}
+
+}  // namespace navarun

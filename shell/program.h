@@ -1,0 +1,90 @@
+// The program: its state, its windows and what it asks of the outside. The operations of all
+// subsystems work on it.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "core/consultation.h"
+#include "core/lords.h"
+#include "periods/period_values.h"
+#include "shell/form1.h"
+#include "shell/platform.h"
+#include "shell/screen/screen.h"
+#include "shell/screen/user.h"
+
+namespace navarun {
+
+/// What is kept for the whole program, not for one person.
+struct Settings {
+    std::uint8_t couleur_kundali = 0;        // 0..3, the colour scheme
+    std::uint8_t decalage_nom_seigneur = 0;  // 0 full names of the lords, 9 short ones
+};
+
+/// The values through which a question box is called.
+struct Dialogue {
+    std::string titre_dialogue;
+    std::string texte_dialogue;
+    std::uint8_t reponse_dialogue = 0;  // 1 OK, 2 Cancel
+};
+
+/// What the date fields remember between two keys.
+struct DateEntry {
+    int nombre_touches = 0;  // digits typed since the last move of the focus
+    /// The date and calendar for which weekday and numbers were last worked out.
+    std::string weekday_of_date;
+    bool weekday_of_julian = false;
+};
+
+class Program {
+  public:
+    /// @param application_folder  the folder of the running program; all files lie below it.
+    Program(Platform& platform_, std::filesystem::path application_folder_);
+    Program(Program const&) = delete;
+    Program& operator=(Program const&) = delete;
+
+    /// Brings the program up. Once, before any event.
+    void start();
+
+    /// Lets one event of the user in: runs `act`, and where it ends in a fatal error shows the
+    /// report, then throws the error on to whoever runs the program.
+    template <typename Act>
+    void event(Act&& act) {
+        try {
+            std::forward<Act>(act)(user);
+        } catch (FatalError const& error) {
+            report(error);
+            throw;
+        }
+    }
+
+    /// The name of a lord as the grid shows it, in full or short.
+    /// @param lord  1..9. With full names anything below ends the run with a fatal error.
+    std::string_view name_of_lord(int lord) const;
+
+    Platform& platform;
+    std::filesystem::path const application_folder;
+
+    screen::Screen screen;
+    screen::User user{screen};
+    navarun::Form1 form1{screen};
+
+    Consultation consultation;
+    PeriodValues periods;
+    Settings settings;
+    Dialogue dialogue;
+    DateEntry date_entry;
+    std::array<std::string, 10> url_defaut;
+
+  private:
+    /// Once: an error inside a wait passes the waiting event too.
+    void report(FatalError const& error);
+
+    bool m_reported = false;
+};
+
+}  // namespace navarun

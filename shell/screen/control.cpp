@@ -1,0 +1,338 @@
+// What the controls share, and what each kind does of its own.
+#include "shell/screen/control.h"
+
+#include <algorithm>
+
+#include "core/text.h"
+#include "shell/screen/screen.h"
+
+namespace navarun::screen {
+
+namespace detail {
+
+void mark_changed(Control& owner) {
+    if (owner.m_marked) return;
+    owner.m_marked = true;
+    owner.form().screen().m_changed.push_back(&owner);
+}
+
+}  // namespace detail
+
+Control::Control(Form& form, Control* container, Kind kind, std::string_view name,
+                 std::optional<int> index, Design const& design)
+    : Visible{*this, design.visible},
+      Enabled{*this, design.enabled},
+      Tag{*this, std::string{design.tag}},
+      m_form{&form},
+      m_container{container},
+      m_kind{kind},
+      m_name{name},
+      m_index{index} {
+    if (kind != Kind::form) form.m_controls.push_back(this);
+}
+
+std::string Control::full_name() const {
+    std::string name{m_name};
+    if (m_index) name.append("(").append(std::to_string(*m_index)).append(")");
+    return name;
+}
+
+bool Control::takes_focus() const {
+    switch (m_kind) {
+        case Kind::text_field:
+        case Kind::text_area:
+        case Kind::combo:
+        case Kind::list:
+        case Kind::button:
+        case Kind::scroll_bar:
+            return true;
+        default:
+            return false;
+    }
+}
+
+bool Control::is_shown() const {
+    for (Control const* control = this; control != nullptr; control = control->m_container) {
+        if (!control->Visible) return false;
+    }
+    return true;
+}
+
+bool Control::can_be_used() const {
+    if (!is_shown() || !m_form->Visible || !m_form->Enabled) return false;
+    for (Control const* control = this; control != nullptr; control = control->m_container) {
+        if (!control->Enabled) return false;
+    }
+    return true;
+}
+
+void Control::visit(PropertyVisitor& visitor) const {
+    visitor.property("Visible", Visible.get());
+    visitor.property("Enabled", Enabled.get());
+    visitor.property("Tag", std::string_view{Tag.get()});
+}
+
+PlacedControl::PlacedControl(Form& form, Control* container, Kind kind, std::string_view name,
+                             std::optional<int> index, Design const& design)
+    : Control{form, container, kind, name, index, design},
+      Left{*this, design.place.left},
+      Top{*this, design.place.top},
+      Width{*this, design.place.width},
+      Height{*this, design.place.height},
+      ToolTipText{*this, std::string{design.tooltip}},
+      BackColor{*this, design.back},
+      MouseIcon{*this, {}} {}
+
+void PlacedControl::visit(PropertyVisitor& visitor) const {
+    Control::visit(visitor);
+    visitor.property("Left", Left.get());
+    visitor.property("Top", Top.get());
+    visitor.property("Width", Width.get());
+    visitor.property("Height", Height.get());
+    visitor.property("ToolTipText", std::string_view{ToolTipText.get()});
+    visitor.property("BackColor", BackColor.get());
+}
+
+TextControl::TextControl(Form& form, Control* container, Kind kind, std::string_view name,
+                         std::optional<int> index, Design const& design)
+    : PlacedControl{form, container, kind, name, index, design},
+      ForeColor{*this, design.fore},
+      FontName{*this, std::string{design.font.name}},
+      FontSize{*this, design.font.size},
+      FontBold{*this, design.font.bold},
+      FontItalic{design.font.italic},
+      WordSpacing{design.word_spacing},
+      Align{design.align} {}
+
+void TextControl::visit(PropertyVisitor& visitor) const {
+    PlacedControl::visit(visitor);
+    visitor.property("ForeColor", ForeColor.get());
+    visitor.property("FontName", std::string_view{FontName.get()});
+    visitor.property("FontSize", FontSize.get());
+    visitor.property("FontBold", FontBold.get());
+}
+
+Label::Label(Form& form, std::string_view name, Design const& design, Control* container,
+             std::optional<int> index)
+    : TextControl{form, container, Kind::label, name, index, design},
+      Caption{*this, std::string{design.text}},
+      Border{*this, design.border},
+      Opaque{*this, design.opaque} {}
+
+void Label::visit(PropertyVisitor& visitor) const {
+    TextControl::visit(visitor);
+    visitor.property("Caption", std::string_view{Caption.get()});
+    visitor.property("Border", Border.get());
+    visitor.property("Opaque", Opaque.get());
+}
+
+EntryControl::EntryControl(Form& form, Control* container, Kind kind, std::string_view name,
+                           std::optional<int> index, Design const& design)
+    : TextControl{form, container, kind, name, index, design},
+      Text{*this, std::string{design.text}},
+      m_read_only{design.read_only},
+      m_digits_only{design.digits_only},
+      m_max_length{design.max_length} {}
+
+void EntryControl::visit(PropertyVisitor& visitor) const {
+    TextControl::visit(visitor);
+    visitor.property("Text", std::string_view{Text.get()});
+}
+
+int EntryControl::length() const { return text::length(Text.get()); }
+
+void EntryControl::select(Selection selection) {
+    int const whole = length();
+    int const start = std::clamp(selection.start, 0, whole);
+    m_selection = {start, std::clamp(selection.length, 0, whole - start)};
+    detail::mark_changed(*this);
+}
+
+void EntryControl::select_all() { select({0, length()}); }
+
+void EntryControl::caret_to_end() { select({length(), 0}); }
+
+bool EntryControl::has_room() const {
+    return m_max_length == 0 || length() - m_selection.length < m_max_length;
+}
+
+void EntryControl::edit(std::string text, std::optional<int> caret) {
+    bool const differs = text != Text.m_text;
+    Text.m_text = std::move(text);
+    select({caret.value_or(length()), 0});
+    if (differs && on_change) on_change();
+}
+
+std::string EntryControl::with_typed(char32_t character) const {
+    return text::replaced(Text.get(), m_selection.start, m_selection.length, character);
+}
+
+EntryText& EntryText::operator=(std::string_view text) {
+    if (m_text != text) m_text = text;
+    detail::mark_changed(*m_owner);
+    // A combo rewritten under the user's hands is selected, so that the next digit replaces it.
+    if (m_owner->kind() == Kind::combo && m_owner->form().screen().focus() == m_owner) {
+        m_owner->select_all();
+    } else {
+        m_owner->caret_to_end();
+    }
+    if (m_owner->on_change) m_owner->on_change();
+    return *this;
+}
+
+TextField::TextField(Form& form, std::string_view name, Design const& design,
+                     Control* container)
+    : EntryControl{form, container, Kind::text_field, name, {}, design} {}
+
+TextArea::TextArea(Form& form, std::string_view name, Design const& design, Control* container)
+    : EntryControl{form, container, Kind::text_area, name, {}, design} {}
+
+Combo::Combo(Form& form, std::string_view name, Design const& design,
+             std::vector<std::string> entries)
+    : EntryControl{form, nullptr, Kind::combo, name, {}, design},
+      m_entries{std::move(entries)} {}
+
+int Combo::list_index() const {
+    auto const found = std::ranges::find(m_entries, Text.get());
+    return found == m_entries.end() ? -1 : static_cast<int>(found - m_entries.begin());
+}
+
+void Combo::visit(PropertyVisitor& visitor) const {
+    EntryControl::visit(visitor);
+    visitor.property("List", &m_entries);
+    visitor.property("ListIndex", list_index());
+}
+
+List::List(Form& form, std::string_view name, Design const& design, Control* container)
+    : TextControl{form, container, Kind::list, name, {}, design},
+      Entries{*this, {}},
+      ListIndex{*this, -1} {}
+
+void List::visit(PropertyVisitor& visitor) const {
+    TextControl::visit(visitor);
+    visitor.property("List", &Entries.get());
+    visitor.property("ListIndex", ListIndex.get());
+}
+
+Button::Button(Form& form, std::string_view name, Design const& design, Control* container,
+               std::optional<int> index)
+    : TextControl{form, container, Kind::button, name, index, design},
+      Caption{*this, std::string{design.text}},
+      Picture{*this, design.picture} {}
+
+void Button::visit(PropertyVisitor& visitor) const {
+    TextControl::visit(visitor);
+    visitor.property("Caption", std::string_view{Caption.get()});
+    visitor.property("Picture", &Picture.get());
+}
+
+Image::Image(Form& form, std::string_view name, Design const& design, Control* container,
+             std::optional<int> index)
+    : PlacedControl{form, container, Kind::image, name, index, design},
+      Picture{*this, design.picture},
+      Stretched{design.stretched} {}
+
+void Image::visit(PropertyVisitor& visitor) const {
+    PlacedControl::visit(visitor);
+    visitor.property("Picture", &Picture.get());
+}
+
+PictureBox::PictureBox(Form& form, std::string_view name, Design const& design,
+                       Control* container)
+    : PlacedControl{form, container, Kind::picture_box, name, {}, design},
+      Picture{*this, design.picture},
+      Border{*this, design.border} {}
+
+void PictureBox::visit(PropertyVisitor& visitor) const {
+    PlacedControl::visit(visitor);
+    visitor.property("Picture", &Picture.get());
+    visitor.property("Border", Border.get());
+}
+
+Frame::Frame(Form& form, std::string_view name, Design const& design)
+    : TextControl{form, nullptr, Kind::frame, name, {}, design},
+      Caption{*this, std::string{design.text}},
+      Border{*this, design.border} {}
+
+void Frame::visit(PropertyVisitor& visitor) const {
+    TextControl::visit(visitor);
+    visitor.property("Caption", std::string_view{Caption.get()});
+    visitor.property("Border", Border.get());
+}
+
+Shape::Shape(Form& form, std::string_view name, Design const& design, Control* container)
+    : PlacedControl{form, container, Kind::shape, name, {}, design},
+      Border{*this, design.border} {}
+
+void Shape::visit(PropertyVisitor& visitor) const {
+    PlacedControl::visit(visitor);
+    visitor.property("Border", Border.get());
+}
+
+ScrollPosition& ScrollPosition::operator=(int value) {
+    int const inside = std::clamp(value, m_owner->Minimum.get(), m_owner->Maximum.get());
+    if (m_value == inside) return *this;
+    m_value = inside;
+    detail::mark_changed(*m_owner);
+    if (m_owner->on_change) m_owner->on_change();
+    return *this;
+}
+
+ScrollBar::ScrollBar(Form& form, std::string_view name, Design const& design)
+    : PlacedControl{form, nullptr, Kind::scroll_bar, name, {}, design},
+      Value{*this, design.minimum},
+      Minimum{*this, design.minimum},
+      Maximum{*this, design.maximum} {}
+
+void ScrollBar::visit(PropertyVisitor& visitor) const {
+    PlacedControl::visit(visitor);
+    visitor.property("Value", Value.get());
+}
+
+void ScrollBar::drag(int value) {
+    m_thumb = value;
+    if (on_scroll) on_scroll();
+    m_thumb.reset();
+    Value = value;
+}
+
+MenuEntry::MenuEntry(Form& form, std::string_view name, std::string_view caption, Control* menu)
+    : Control{form, menu, Kind::menu_entry, name, {}, {}},
+      Caption{*this, std::string{caption}},
+      Checked{*this, false} {}
+
+void MenuEntry::visit(PropertyVisitor& visitor) const {
+    Control::visit(visitor);
+    visitor.property("Caption", std::string_view{Caption.get()});
+    visitor.property("Checked", Checked.get());
+}
+
+MenuSeparator::MenuSeparator(Form& form, std::string_view name, Control& menu)
+    : Control{form, &menu, Kind::menu_separator, name, {}, {}} {}
+
+Form::Form(Screen& screen, std::string_view name, Design const& design)
+    : Control{*this, nullptr, Kind::form, name, {}, design},
+      Caption{*this, std::string{design.text}},
+      BackColor{*this, design.back},
+      Width{*this, design.place.width},
+      Height{*this, design.place.height},
+      m_screen{&screen} {
+    screen.m_forms.push_back(this);
+}
+
+Control* Form::find(std::string_view name, std::optional<int> index) const {
+    auto const found = std::ranges::find_if(m_controls, [&](Control const* control) {
+        return control->index() == index && control->name() == name;
+    });
+    return found == m_controls.end() ? nullptr : *found;
+}
+
+void Form::visit(PropertyVisitor& visitor) const {
+    Control::visit(visitor);
+    visitor.property("Caption", std::string_view{Caption.get()});
+    visitor.property("BackColor", BackColor.get());
+    visitor.property("Width", Width.get());
+    visitor.property("Height", Height.get());
+}
+
+}  // namespace navarun::screen

@@ -1,0 +1,27 @@
+// Pictures by name: the model never holds pixels.
+#pragma once
+
+#include <compare>
+#include <string>
+#include <string_view>
+
+namespace navarun::screen {
+
+/// A picture of the image store ("Image_Kundali(2)"), a button's own picture (the control's
+/// name), a portrait ("file:" and the file's name without folder), or none ("").
+class Picture {
+  public:
+    Picture() = default;
+    explicit Picture(std::string_view name) : m_name{name} {}
+    Picture(std::string_view name, int member) : m_name{name} {
+        m_name.append("(").append(std::to_string(member)).append(")");
+    }
+
+    std::string const& name() const { return m_name; }
+    bool operator==(Picture const&) const = default;
+
+  private:
+    std::string m_name;
+};
+
+}  // namespace navarun::screen

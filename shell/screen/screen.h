@@ -1,0 +1,41 @@
+// All windows of the program, the one focus they share, and what has changed on them.
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "shell/screen/control.h"
+
+namespace navarun::screen {
+
+class Screen {
+  public:
+    Screen() = default;
+    Screen(Screen const&) = delete;
+    Screen& operator=(Screen const&) = delete;
+
+    std::vector<Form*> const& forms() const { return m_forms; }
+    /// Null where no window has that name.
+    Form* find_form(std::string_view name) const;
+
+    /// The control that has the keyboard; null before the first focus.
+    Control* focus() const { return m_focus; }
+    /// Moves the focus. The control that had it gets LostFocus first, at once; a field or combo
+    /// that gets it has its whole text selected. Nothing happens where it already is there.
+    /// REQUIRES control.takes_focus().
+    void move_focus(Control& control);
+
+    /// The controls written to since the last call, each once, in the order of the first write.
+    std::vector<Control*> take_changed();
+    bool has_changed() const { return !m_changed.empty(); }
+
+  private:
+    friend class Form;
+    friend void detail::mark_changed(Control& owner);
+
+    std::vector<Form*> m_forms;
+    std::vector<Control*> m_changed;
+    Control* m_focus = nullptr;
+};
+
+}  // namespace navarun::screen

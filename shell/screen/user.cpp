@@ -1,0 +1,179 @@
+// The acts of a user.
+#include "shell/screen/user.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/text.h"
+
+namespace navarun::screen {
+
+namespace {
+
+void require_usable(Control const& control) {
+    if (!control.can_be_used()) {
+        throw Refused{control.full_name() + " n'est pas visible ou pas permis"};
+    }
+}
+
+[[noreturn]] void refuse_kind(Control const& control) {
+    throw Refused{control.full_name() + " ne prend pas cela"};
+}
+
+void fire(std::function<void()> const& event) {
+    if (event) event();
+}
+
+}  // namespace
+
+void User::focus(Control& control) {
+    require_usable(control);
+    if (!control.takes_focus()) throw Refused{control.full_name() + " ne prend pas le focus"};
+    m_screen->move_focus(control);
+}
+
+void User::touch(Control& control) {
+    require_usable(control);
+    if (control.takes_focus()) m_screen->move_focus(control);
+}
+
+void User::type(char32_t character) {
+    Control* const control = m_screen->focus();
+    if (control == nullptr) return;
+    require_usable(*control);
+    bool const swallowed = control->on_key_press && control->on_key_press(character);
+    auto* const entry = dynamic_cast<EntryControl*>(control);
+    if (swallowed || entry == nullptr || entry->read_only()) return;
+    // A handler of KeyPress may have moved the focus or closed the field.
+    if (m_screen->focus() != control || !entry->has_room()) return;
+    int const caret = entry->selection().start + 1;
+    entry->edit(entry->with_typed(character), caret);
+}
+
+void User::type(Control& control, std::string_view text) {
+    auto const* const entry = dynamic_cast<EntryControl*>(&control);
+    require_usable(control);
+    if (entry != nullptr && entry->read_only()) refuse_kind(control);
+    focus(control);
+    for (char32_t const character : text::characters(text)) type(character);
+}
+
+void User::set_text(EntryControl& control, std::string_view text) {
+    require_usable(control);
+    if (control.read_only()) refuse_kind(control);
+    m_screen->move_focus(control);
+    std::string taken{text};
+    if (control.digits_only()) {
+        std::erase_if(taken, [](char c) { return c < '0' || c > '9'; });
+    }
+    if (control.max_length() > 0) taken = text::first(taken, control.max_length());
+    control.edit(std::move(taken));
+}
+
+void User::set_position(ScrollBar& control, int value) {
+    require_usable(control);
+    if (value < control.Minimum || value > control.Maximum) {
+        throw BadValue{"valeur hors de l'étendue"};
+    }
+    m_screen->move_focus(control);
+    control.Value = value;
+}
+
+void User::drag(ScrollBar& control, int value) {
+    require_usable(control);
+    if (value < control.Minimum || value > control.Maximum) {
+        throw BadValue{"valeur hors de l'étendue"};
+    }
+    m_screen->move_focus(control);
+    control.drag(value);
+}
+
+void User::choose(Control& control, int entry) {
+    require_usable(control);
+    if (auto* const combo = dynamic_cast<Combo*>(&control)) {
+        auto const& entries = combo->entries();
+        if (entry < 0 || entry >= static_cast<int>(entries.size())) {
+            throw UnknownEntry{std::to_string(entry)};
+        }
+        m_screen->move_focus(control);
+        combo->edit(entries[static_cast<std::size_t>(entry)]);
+        combo->select_all();
+        fire(combo->on_click);
+        return;
+    }
+    if (auto* const list = dynamic_cast<List*>(&control)) {
+        if (entry < 0 || entry >= static_cast<int>(list->Entries.get().size())) {
+            throw UnknownEntry{std::to_string(entry)};
+        }
+        m_screen->move_focus(control);
+        list->ListIndex = entry;
+        fire(list->on_click);
+        return;
+    }
+    refuse_kind(control);
+}
+
+void User::choose(Control& control, std::string_view entry) {
+    std::vector<std::string> const* entries = nullptr;
+    if (auto* const combo = dynamic_cast<Combo*>(&control)) entries = &combo->entries();
+    if (auto* const list = dynamic_cast<List*>(&control)) entries = &list->Entries.get();
+    require_usable(control);
+    if (entries == nullptr) refuse_kind(control);
+    auto const found = std::ranges::find(*entries, entry);
+    if (found == entries->end()) throw UnknownEntry{std::string{entry}};
+    choose(control, static_cast<int>(found - entries->begin()));
+}
+
+void User::click(Control& control) {
+    touch(control);
+    // A click in a date field offers its whole text to the next digit.
+    if (auto* const combo = dynamic_cast<Combo*>(&control)) {
+        combo->select_all();
+        return;  // Click of a combo is the choice of an entry.
+    }
+    fire(control.on_click);
+}
+
+void User::double_click(Control& control) {
+    touch(control);
+    fire(control.on_double_click);
+}
+
+void User::hover(Control& control) {
+    require_usable(control);
+    if (control.on_mouse_move) control.on_mouse_move({});
+}
+
+void User::key(Control& control, int code) {
+    focus(control);
+    struct Held {
+        int& key;
+        ~Held() { key = 0; }
+    } const held{m_key_held};
+    m_key_held = code;
+    if (control.on_key_down) control.on_key_down(code);
+    if (m_screen->focus() == &control && control.on_key_press) {
+        control.on_key_press(static_cast<char32_t>(code));
+    }
+}
+
+void User::mouse(Control& control, std::string_view event, Mouse const& where) {
+    static constexpr std::pair<std::string_view, std::function<void(Mouse const&)> Control::*>
+        events[]{
+            {"down", &Control::on_mouse_down},
+            {"move", &Control::on_mouse_move},
+            {"up", &Control::on_mouse_up},
+        };
+    auto const found =
+        std::ranges::find_if(events, [&](auto const& row) { return row.first == event; });
+    if (found == std::end(events)) throw BadValue{std::string{event}};
+    require_usable(control);
+    if (auto const& handler = control.*(found->second)) handler(where);
+}
+
+void User::close(Form& form) {
+    if (!form.Visible) throw Refused{form.full_name() + " n'est pas ouverte"};
+    fire(form.on_close);
+}
+
+}  // namespace navarun::screen

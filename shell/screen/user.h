@@ -1,0 +1,79 @@
+// What a user can do to the controls, whoever stands for her: a person at a window or a program
+// at a pipe. One place says what each act moves, writes and fires, and what no user could do.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "shell/screen/screen.h"
+
+namespace navarun::screen {
+
+/// An act that no user could do: the control is hidden, disabled or read-only, its window is
+/// closed, or it does not take what was meant for it.
+class Refused : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// A list entry that is not there.
+class UnknownEntry : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// A value that the control cannot take.
+class BadValue : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+class User {
+  public:
+    explicit User(Screen& screen) : m_screen{&screen} {}
+
+    /// Moves the focus to `control`.
+    void focus(Control& control);
+
+    /// Types one character into the control that has the focus: KeyPress, and where the handler
+    /// does not swallow it, the character replaces the selection and Change fires. What finds
+    /// no room is dropped.
+    void type(char32_t character);
+    /// Moves the focus to `control`, then types. Where a handler moves the focus, the
+    /// characters that are left go to the control that now has it.
+    void type(Control& control, std::string_view text);
+
+    /// The edit of a text as a whole; what does not fit is cut, what is no digit is dropped
+    /// from a date field.
+    void set_text(EntryControl& control, std::string_view text);
+    /// Throws BadValue outside the range of the scroll bar.
+    void set_position(ScrollBar& control, int value);
+    void drag(ScrollBar& control, int value);
+
+    /// Takes an entry of a combo or list by its place, from 0. Throws UnknownEntry.
+    void choose(Control& control, int entry);
+    /// The same by its text.
+    void choose(Control& control, std::string_view entry);
+
+    void click(Control& control);
+    void double_click(Control& control);
+    void hover(Control& control);
+    /// KeyDown and KeyPress of a key code; the key edits nothing. While it lasts,
+    /// key_held() tells the key.
+    void key(Control& control, int code);
+    void mouse(Control& control, std::string_view event, Mouse const& where);
+    void close(Form& form);
+
+    /// The key that the user holds down; 0 for none.
+    int key_held() const { return m_key_held; }
+
+  private:
+    /// Focus by a click: moves it where the control takes it.
+    void touch(Control& control);
+
+    Screen* m_screen;
+    int m_key_held = 0;
+};
+
+}  // namespace navarun::screen

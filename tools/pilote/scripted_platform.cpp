@@ -1,0 +1,63 @@
+// The scripted clock and boxes.
+#include "tools/pilote/scripted_platform.h"
+
+#include <cmath>
+#include <utility>
+
+namespace navarun::pilot {
+
+namespace {
+
+constexpr double seconds_of_day = 86400;
+
+// Waits come as single-precision numbers; their decimals are the ones meant.
+Json seconds_as_meant(double seconds) {
+    double const rounded = std::round(seconds * 1e6) / 1e6;
+    if (rounded == std::floor(rounded)) return static_cast<int>(rounded);
+    return rounded;
+}
+
+}  // namespace
+
+void ScriptedPlatform::set_clock(Date today, double seconds) {
+    m_today = today;
+    m_seconds = seconds;
+}
+
+void ScriptedPlatform::wait(double seconds, std::string_view shown_message) {
+    if (shown_message.empty()) {
+        m_effects.push_back({{"kind", "pause"}, {"seconds", seconds_as_meant(seconds)}});
+    } else {
+        m_effects.push_back({{"kind", "message"},
+                             {"text", shown_message},
+                             {"seconds", seconds_as_meant(seconds)}});
+    }
+    if (m_during_wait) m_during_wait();
+    m_seconds += seconds;
+    while (m_seconds >= seconds_of_day) {
+        m_seconds -= seconds_of_day;
+        m_today += std::chrono::days{1};
+    }
+}
+
+Answer ScriptedPlatform::box(std::string_view title, std::string_view text,
+                             BoxButtons buttons) {
+    Answer answer = Answer::ok;
+    if (buttons == BoxButtons::ok_cancel && !m_answers.empty()) {
+        answer = m_answers.front();
+        m_answers.pop_front();
+    }
+    m_effects.push_back({{"kind", "box"},
+                         {"title", title},
+                         {"text", text},
+                         {"answer", static_cast<int>(answer)}});
+    return answer;
+}
+
+bool ScriptedPlatform::key_is_held(int code) {
+    return m_user != nullptr && m_user->key_held() == code;
+}
+
+Json ScriptedPlatform::take_effects() { return std::exchange(m_effects, Json::array()); }
+
+}  // namespace navarun::pilot

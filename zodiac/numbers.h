@@ -1,0 +1,14 @@
+// Dinanka and Purnanka, the two numbers of a birth date.
+#pragma once
+
+#include <string_view>
+
+namespace navarun {
+
+/// The number of the birth day, 1..9.
+int dinanka_of(std::string_view day);
+/// The number of the whole date, 1..9. The year counts as two numbers of two digits.
+int purnanka_of(std::string_view day, std::string_view month, std::string_view century,
+                std::string_view year);
+
+}  // namespace navarun
