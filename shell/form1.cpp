@@ -225,13 +225,11 @@ Form1::Form1(screen::Screen& screen_)
                               .visible = false},
                              &Picture_KUNDALI},
 
-      // The blanks of the caption are counted for narrower ones than today's fonts have.
       Label4{*this, "Label4",
              {.place = {0, 315, 4455, 285},
               .text = names_caption,
               .font = italic(narrow(11.25)),
-              .fore = Colour{0x404040},
-              .word_spacing = -2.15}},
+              .fore = Colour{0x404040}}},
       Text_prenom{*this, "Text_prenom", name_field(0, 1935)},
       Text_nom{*this, "Text_nom", name_field(2040, 2295)},
       Image_cal_Julien{*this, "Image_cal_Julien",

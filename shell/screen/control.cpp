@@ -101,7 +101,6 @@ TextControl::TextControl(Form& form, Control* container, Kind kind, std::string_
       FontSize{*this, design.font.size},
       FontBold{*this, design.font.bold},
       FontItalic{design.font.italic},
-      WordSpacing{design.word_spacing},
       Align{design.align} {}
 
 void TextControl::visit(PropertyVisitor& visitor) const {

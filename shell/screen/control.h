@@ -75,7 +75,6 @@ struct Design {
     bool stretched = false;    // a picture fills its control
     bool read_only = false;    // a text that only the program writes
     bool digits_only = false;  // a date field: what is no digit never enters
-    double word_spacing = 0;   // pixels by which a blank is drawn wider, negative for narrower
     int max_length = 0;        // characters the user may enter; 0 for no limit
     int minimum = 0;           // scroll bars
     int maximum = 0;
@@ -187,7 +186,6 @@ class TextControl : public PlacedControl {
     Property<double> FontSize;
     Property<bool> FontBold;
     bool const FontItalic;
-    double const WordSpacing;  // pixels
     Alignment const Align;
 };
 

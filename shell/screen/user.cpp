@@ -58,6 +58,17 @@ void User::type(Control& control, std::string_view text) {
     for (char32_t const character : text::characters(text)) type(character);
 }
 
+bool User::press(EntryControl& control, char32_t character) {
+    require_usable(control);
+    return control.read_only() || (control.on_key_press && control.on_key_press(character));
+}
+
+void User::edit(EntryControl& control, std::string text, int caret) {
+    require_usable(control);
+    if (control.read_only()) refuse_kind(control);
+    control.edit(std::move(text), caret);
+}
+
 void User::set_text(EntryControl& control, std::string_view text) {
     require_usable(control);
     if (control.read_only()) refuse_kind(control);

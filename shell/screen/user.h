@@ -44,6 +44,13 @@ class User {
     /// characters that are left go to the control that now has it.
     void type(Control& control, std::string_view text);
 
+    /// KeyPress alone, for who edits the text on her own side and tells it by edit().
+    /// @return whether the key is swallowed. True also where the control takes no text.
+    bool press(EntryControl& control, char32_t character);
+    /// An edit made in place, with the caret where it now stands, in characters. REQUIRES that
+    /// `control` has the focus; an edit that differs in nothing fires nothing.
+    void edit(EntryControl& control, std::string text, int caret);
+
     /// The edit of a text as a whole; what does not fit is cut, what is no digit is dropped
     /// from a date field.
     void set_text(EntryControl& control, std::string_view text);

@@ -1,0 +1,344 @@
+// The widgets of the kinds, and which one suits a control.
+#include "desktop/control_view.h"
+
+#include <QAbstractButton>
+#include <QKeyEvent>
+#include <QListView>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStringListModel>
+#include <QStyleOption>
+
+#include "desktop/entry_views.h"
+#include "desktop/label_widget.h"
+#include "desktop/placed_view.h"
+
+namespace navarun::desktop {
+
+namespace {
+
+class LabelView : public PlacedView<screen::Label, LabelWidget> {
+  public:
+    LabelView(Session& session, screen::Label& label, QWidget& parent)
+        : PlacedView{session, label, new LabelWidget{&parent}} {
+        tell_mouse(session, label, shown());
+    }
+
+  protected:
+    QRect place() const override { return LabelWidget::grown(to_rect(control()), look()); }
+    void show_content() override { shown().set_look(look()); }
+
+  private:
+    LabelWidget::Look look() const {
+        auto const& label = control();
+        return {
+            .text = to_qt(label.Caption.get()),
+            .font = font_of(label),
+            .fore = to_qt(label.ForeColor.get()),
+            .back = to_qt(label.BackColor.get()),
+            .opaque = label.Opaque,
+            .border = label.Border,
+            .centred = label.Align == screen::Alignment::centre,
+        };
+    }
+};
+
+// A ground and a picture; other controls may lie on it.
+class SurfaceWidget : public QWidget {
+  public:
+    SurfaceWidget(Pictures& pictures, QWidget* parent)
+        : QWidget{parent}, m_pictures{pictures} {}
+
+    struct Look {
+        std::string picture;
+        QColor ground;  // invalid: none
+        bool stretched = false;
+        bool border = false;
+        bool operator==(Look const&) const = default;
+    };
+    void set_look(Look const& look) {
+        if (look == m_look) return;
+        m_look = look;
+        update();
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter{this};
+        if (m_look.ground.isValid()) painter.fillRect(rect(), m_look.ground);
+        QSize const size = m_look.stretched ? this->size() : picture_size();
+        m_pictures.draw(painter, m_look.picture, QRectF{QPointF{0, 0}, QSizeF{size}});
+        if (m_look.border) {
+            painter.setPen(QColor{0x64, 0x64, 0x64});
+            painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        }
+    }
+
+  private:
+    // At its nominal size, but never beyond the box by the pixel that rounding makes.
+    QSize picture_size() const {
+        QSize const natural = m_pictures.natural_size(m_look.picture);
+        QSize const beyond = natural - size();
+        bool const by_rounding = std::max(beyond.width(), beyond.height()) <= 1;
+        return by_rounding ? natural.boundedTo(size()) : natural;
+    }
+
+    Pictures& m_pictures;
+    Look m_look;
+};
+
+template <typename C>
+class SurfaceView : public PlacedView<C, SurfaceWidget> {
+  public:
+    SurfaceView(Session& session, C& control, QWidget& parent)
+        : PlacedView<C, SurfaceWidget>{session, control,
+                                       new SurfaceWidget{session.pictures(), &parent}} {
+        tell_mouse(session, control, this->shown());
+    }
+
+  protected:
+    void show_content() override { this->shown().set_look(look_of(this->control())); }
+
+  private:
+    static SurfaceWidget::Look look_of(screen::Image const& image) {
+        return {
+            .picture = image.Picture.get().name(), .ground = {}, .stretched = image.Stretched};
+    }
+    static SurfaceWidget::Look look_of(screen::PictureBox const& box) {
+        return {.picture = box.Picture.get().name(),
+                .ground = to_qt(box.BackColor.get()),
+                .border = box.Border};
+    }
+    static SurfaceWidget::Look look_of(screen::Frame const& frame) {
+        return {.picture = {}, .ground = to_qt(frame.BackColor.get()), .border = true};
+    }
+    static SurfaceWidget::Look look_of(screen::Shape const& shape) {
+        return {.picture = {}, .ground = to_qt(shape.BackColor.get()), .border = shape.Border};
+    }
+};
+
+// A button that is all picture.
+class PictureButton : public QAbstractButton {
+  public:
+    PictureButton(Pictures& pictures, QWidget* parent)
+        : QAbstractButton{parent}, m_pictures{pictures} {
+        setFocusPolicy(Qt::StrongFocus);
+    }
+
+    void set_picture(std::string const& name) {
+        if (name == m_picture) return;
+        m_picture = name;
+        update();
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter{this};
+        painter.setRenderHint(QPainter::Antialiasing);
+        QColor const ground = isDown()       ? QColor{0xDC, 0xE6, 0xEE}
+                              : underMouse() ? QColor{0xF2, 0xF7, 0xFB}
+                                             : QColor{Qt::white};
+        painter.setPen(hasFocus() ? QPen{QColor{0x0B, 0x3A, 0x66}, 2}
+                                  : QPen{QColor{0x9F, 0xB3, 0xC4}, 1});
+        painter.setBrush(isEnabled() ? ground : QColor{0xEE, 0xEE, 0xEE});
+        double const inset = hasFocus() ? 1.5 : 0.5;
+        painter.drawRoundedRect(QRectF{rect()}.adjusted(inset, inset, -inset, -inset), 3, 3);
+        QSize const natural = m_pictures.natural_size(m_picture);
+        QSize const room = size() - QSize{2, 2};
+        QSize const drawn = natural.width() > room.width() || natural.height() > room.height()
+                                ? natural.scaled(room, Qt::KeepAspectRatio)
+                                : natural;
+        QRect place{QPoint{0, 0}, drawn};
+        place.moveCenter(rect().center());
+        if (!isEnabled()) painter.setOpacity(0.4);
+        m_pictures.draw(painter, m_picture, place);
+        painter.setPen(Qt::black);
+        if (!text().isEmpty()) painter.drawText(rect(), Qt::AlignCenter, text());
+    }
+
+    void keyPressEvent(QKeyEvent* event) override {
+        bool const enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        if (enter && !event->isAutoRepeat()) {
+            click();
+        } else {
+            QAbstractButton::keyPressEvent(event);
+        }
+    }
+
+    void enterEvent(QEnterEvent* event) override {
+        QAbstractButton::enterEvent(event);
+        update();
+    }
+
+    void leaveEvent(QEvent* event) override {
+        QAbstractButton::leaveEvent(event);
+        update();
+    }
+
+  private:
+    Pictures& m_pictures;
+    std::string m_picture;
+};
+
+class ButtonView : public PlacedView<screen::Button, PictureButton> {
+  public:
+    ButtonView(Session& session, screen::Button& button, QWidget& parent)
+        : PlacedView{session, button, new PictureButton{session.pictures(), &parent}} {
+        tell_focus(session, button, shown());
+        QObject::connect(&shown(), &QAbstractButton::clicked, &shown(), [this] {
+            this->session().act([this](screen::User& user) { user.click(this->control()); });
+        });
+    }
+
+  protected:
+    void show_content() override {
+        shown().setFont(font_of(control()));
+        shown().setText(to_qt(control().Caption.get()));
+        shown().set_picture(control().Picture.get().name());
+    }
+};
+
+// Enter on a control that edits nothing is told as a key.
+class EnterFilter : public QObject {
+  public:
+    EnterFilter(Session& session, screen::Control& control, QWidget& widget)
+        : QObject{&widget}, m_session{session}, m_control{control} {
+        widget.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress) return false;
+        auto const key = static_cast<QKeyEvent*>(event)->key();
+        if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+        m_session.act([this](screen::User& user) { user.key(m_control, key::enter); });
+        return true;
+    }
+
+  private:
+    Session& m_session;
+    screen::Control& m_control;
+};
+
+class ScrollBarView : public PlacedView<screen::ScrollBar, QScrollBar> {
+  public:
+    ScrollBarView(Session& session, screen::ScrollBar& bar, QWidget& parent)
+        : PlacedView{session, bar, new QScrollBar{Qt::Horizontal, &parent}} {
+        shown().setFocusPolicy(Qt::StrongFocus);
+        shown().setSingleStep(1);
+        shown().setPageStep(10);
+        shown().setInvertedControls(false);  // Right and Up go to the greater age
+        shown().setContextMenuPolicy(Qt::NoContextMenu);
+        new EnterFilter{session, bar, shown()};
+        tell_focus(session, bar, shown());
+        QObject::connect(&shown(), &QScrollBar::valueChanged, &shown(), [this](int value) {
+            bool const dragged = shown().isSliderDown();
+            this->session().act([&](screen::User& user) {
+                if (dragged) {
+                    user.drag(this->control(), value);
+                } else {
+                    user.set_position(this->control(), value);
+                }
+            });
+        });
+    }
+
+  protected:
+    void show_content() override {
+        QSignalBlocker const silent{shown()};
+        shown().setRange(control().Minimum, control().Maximum);
+        shown().setValue(control().Value);
+    }
+};
+
+class ListView : public PlacedView<screen::List, QListView> {
+  public:
+    ListView(Session& session, screen::List& list, QWidget& parent)
+        : PlacedView{session, list, new QListView{&parent}} {
+        shown().setModel(&m_model);
+        shown().setEditTriggers(QAbstractItemView::NoEditTriggers);
+        shown().setUniformItemSizes(true);
+        tell_focus(session, list, shown());
+        QObject::connect(
+            &shown(), &QListView::clicked, &shown(), [this](QModelIndex const& at) {
+                this->session().act(
+                    [&](screen::User& user) { user.choose(this->control(), at.row()); });
+            });
+        QObject::connect(&shown(), &QListView::doubleClicked, &shown(), [this] {
+            this->session().act(
+                [this](screen::User& user) { user.double_click(this->control()); });
+        });
+    }
+
+  protected:
+    void show_content() override {
+        shown().setFont(font_of(control()));
+        set_colour(shown(), QPalette::Base, to_qt(control().BackColor.get()));
+        set_colour(shown(), QPalette::Text, to_qt(control().ForeColor.get()));
+        QStringList entries;
+        for (auto const& entry : control().Entries.get()) entries.append(to_qt(entry));
+        if (m_model.stringList() != entries) m_model.setStringList(entries);
+        shown().setCurrentIndex(m_model.index(control().ListIndex));
+    }
+
+  private:
+    QStringListModel m_model;
+};
+
+}  // namespace
+
+std::unique_ptr<ControlView> make_view(Session& session, screen::PlacedControl& control,
+                                       QWidget& parent) {
+    // The kind tells the type of the control.
+    auto const make = [&]<typename View, typename C>() -> std::unique_ptr<ControlView> {
+        return std::make_unique<View>(session, static_cast<C&>(control), parent);
+    };
+    switch (control.kind()) {
+        case screen::Kind::label:
+            return make.operator()<LabelView, screen::Label>();
+        case screen::Kind::text_field:
+            return make.operator()<TextFieldView, screen::TextField>();
+        case screen::Kind::text_area:
+            return make.operator()<TextAreaView, screen::TextArea>();
+        case screen::Kind::combo:
+            return make.operator()<ComboView, screen::Combo>();
+        case screen::Kind::list:
+            return make.operator()<ListView, screen::List>();
+        case screen::Kind::button:
+            return make.operator()<ButtonView, screen::Button>();
+        case screen::Kind::image:
+            return make.operator()<SurfaceView<screen::Image>, screen::Image>();
+        case screen::Kind::picture_box:
+            return make.operator()<SurfaceView<screen::PictureBox>, screen::PictureBox>();
+        case screen::Kind::frame:
+            return make.operator()<SurfaceView<screen::Frame>, screen::Frame>();
+        case screen::Kind::shape:
+            return make.operator()<SurfaceView<screen::Shape>, screen::Shape>();
+        case screen::Kind::scroll_bar:
+            return make.operator()<ScrollBarView, screen::ScrollBar>();
+        case screen::Kind::form:
+        case screen::Kind::menu_entry:
+        case screen::Kind::menu_separator:
+            break;
+    }
+    throw std::logic_error{"no widget for " + control.full_name()};
+}
+
+MenuEntryView::MenuEntryView(Session& session, screen::MenuEntry& entry, QAction& action)
+    : m_entry{entry}, m_action{action} {
+    action.setObjectName(to_qt(entry.name()));
+    QObject::connect(&action, &QAction::triggered, &action, [this, &session] {
+        session.act([this](screen::User& user) { user.click(m_entry); });
+        // The toolkit moves a check mark by itself; the model's stands.
+        refresh();
+    });
+}
+
+void MenuEntryView::refresh() {
+    m_action.setText(to_qt(m_entry.Caption.get()));
+    m_action.setEnabled(m_entry.Enabled);
+    m_action.setVisible(m_entry.Visible);
+    m_action.setCheckable(m_entry.Checked);
+    m_action.setChecked(m_entry.Checked);
+}
+
+}  // namespace navarun::desktop

@@ -1,0 +1,114 @@
+// Event filters that turn the toolkit's events into those of the model.
+#include "desktop/gestures.h"
+
+#include <QFocusEvent>
+#include <QMouseEvent>
+
+#include "desktop/session.h"
+#include "desktop/to_qt.h"
+
+namespace navarun::desktop {
+
+namespace {
+
+class MouseFilter : public QObject {
+  public:
+    MouseFilter(Session& session, screen::PlacedControl& control, QWidget& widget)
+        : QObject{&widget}, m_session{session}, m_control{control}, m_widget{widget} {
+        widget.setMouseTracking(true);
+        widget.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched != &m_widget) return false;
+        auto const mouse = [&] { return static_cast<QMouseEvent*>(event); };
+        switch (event->type()) {
+            case QEvent::MouseButtonPress:
+                m_pressed = mouse()->button() == Qt::LeftButton;
+                tell("down", *mouse(), button_of(mouse()->button()));
+                return true;
+            case QEvent::MouseMove:
+                tell("move", *mouse(), button_of(mouse()->buttons()));
+                return true;
+            case QEvent::MouseButtonRelease:
+                tell("up", *mouse(), button_of(mouse()->button()));
+                if (std::exchange(m_pressed, false) &&
+                    m_widget.rect().contains(mouse()->position().toPoint())) {
+                    m_session.act([&](screen::User& user) { user.click(m_control); });
+                }
+                return true;
+            case QEvent::MouseButtonDblClick:
+                m_pressed = false;
+                if (mouse()->button() == Qt::LeftButton) {
+                    m_session.act([&](screen::User& user) { user.double_click(m_control); });
+                }
+                return true;
+            default:
+                return false;
+        }
+    }
+
+  private:
+    static int button_of(Qt::MouseButtons buttons) {
+        if (buttons.testFlag(Qt::LeftButton)) return 1;
+        return buttons.testFlag(Qt::RightButton) ? 2 : 0;
+    }
+
+    bool listens(std::string_view what) const {
+        if (what == "down") return static_cast<bool>(m_control.on_mouse_down);
+        if (what == "move") return static_cast<bool>(m_control.on_mouse_move);
+        return static_cast<bool>(m_control.on_mouse_up);
+    }
+
+    void tell(std::string_view what, QMouseEvent const& event, int button) {
+        if (!listens(what)) return;
+        screen::Mouse const where{.button = button,
+                                  .x = event.position().x() * twips_per_pixel,
+                                  .y = event.position().y() * twips_per_pixel};
+        m_session.act([&](screen::User& user) { user.mouse(m_control, what, where); });
+    }
+
+    Session& m_session;
+    screen::PlacedControl& m_control;
+    QWidget& m_widget;
+    bool m_pressed = false;
+};
+
+class FocusFilter : public QObject {
+  public:
+    FocusFilter(Session& session, screen::PlacedControl& control, QWidget& widget)
+        : QObject{&widget}, m_session{session}, m_control{control} {
+        widget.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::FocusIn) return false;
+        switch (static_cast<QFocusEvent*>(event)->reason()) {
+            case Qt::MouseFocusReason:
+            case Qt::TabFocusReason:
+            case Qt::BacktabFocusReason:
+            case Qt::ShortcutFocusReason:
+                m_session.act([&](screen::User& user) { user.focus(m_control); });
+                break;
+            default:
+                break;
+        }
+        return false;
+    }
+
+  private:
+    Session& m_session;
+    screen::PlacedControl& m_control;
+};
+
+}  // namespace
+
+void tell_mouse(Session& session, screen::PlacedControl& control, QWidget& widget) {
+    new MouseFilter{session, control, widget};  // owned by the widget
+}
+
+void tell_focus(Session& session, screen::PlacedControl& control, QWidget& widget) {
+    new FocusFilter{session, control, widget};  // owned by the widget
+}
+
+}  // namespace navarun::desktop

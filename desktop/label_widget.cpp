@@ -1,0 +1,77 @@
+// Painting of labels.
+#include "desktop/label_widget.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace navarun::desktop {
+
+namespace {
+
+// Air between a text and the edge of its ground, in pixels.
+constexpr int margin = 2;
+
+QColor const border_colour{0x64, 0x64, 0x64};
+
+bool wraps(QRect const& box, QFont const& font) {
+    return box.height() >= 2 * QFontMetrics{font}.height();
+}
+
+}  // namespace
+
+LabelWidget::LabelWidget(QWidget* parent) : QWidget{parent} {}
+
+void LabelWidget::set_look(Look look) {
+    if (look == m_look) return;
+    m_look = std::move(look);
+    update();
+}
+
+QRect LabelWidget::grown(QRect const& box, Look const& look) {
+    if (!look.centred || look.opaque || wraps(box, look.font)) return box;
+    int const needed =
+        static_cast<int>(std::ceil(QFontMetricsF{look.font}.horizontalAdvance(look.text))) + 2;
+    int const more = needed - box.width();
+    if (more <= 0) return box;
+    int const left = (more + 1) / 2;
+    return box.adjusted(-left, 0, more - left, 0);
+}
+
+int LabelWidget::indent() const { return m_look.opaque ? margin : 0; }
+
+double LabelWidget::room() const { return width() - 2 * indent(); }
+
+double LabelWidget::narrowing() const {
+    double const needed = QFontMetricsF{m_look.font}.horizontalAdvance(m_look.text);
+    return needed > room() && !wraps(rect(), m_look.font) ? room() / needed : 1.0;
+}
+
+void LabelWidget::paintEvent(QPaintEvent*) {
+    QPainter painter{this};
+    if (m_look.opaque) painter.fillRect(rect(), m_look.back);
+    if (m_look.border) {
+        painter.setPen(border_colour);
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+    painter.setPen(m_look.fore);
+    painter.setFont(m_look.font);
+    auto const across = m_look.centred ? Qt::AlignHCenter : Qt::AlignLeft;
+    if (wraps(rect(), m_look.font)) {
+        painter.drawText(rect().adjusted(margin, margin, -margin, -margin),
+                         static_cast<int>(across | Qt::AlignVCenter) | Qt::TextWordWrap,
+                         m_look.text);
+        return;
+    }
+    // What does not fit is drawn narrower, never clipped.
+    double const narrower = narrowing();
+    painter.translate(indent(), 0);
+    painter.scale(narrower, 1);
+    painter.drawText(QRectF{0, 0, room() / narrower, static_cast<double>(height())},
+                     static_cast<int>(across | Qt::AlignVCenter) | Qt::TextSingleLine,
+                     m_look.text);
+}
+
+}  // namespace navarun::desktop

@@ -1,0 +1,42 @@
+// A label: one text in a box, with or without ground and border.
+#pragma once
+
+#include <QWidget>
+
+namespace navarun::desktop {
+
+class LabelWidget : public QWidget {
+  public:
+    explicit LabelWidget(QWidget* parent);
+
+    struct Look {
+        QString text;
+        QFont font;
+        QColor fore;
+        QColor back;
+        bool opaque = false;
+        bool border = false;
+        bool centred = false;
+        bool operator==(Look const&) const = default;
+    };
+    void set_look(Look look);
+    Look const& look() const { return m_look; }
+
+    /// The place that the text needs: a centred text without ground that is wider than its box
+    /// grows to both sides from the box's centre. A text on a ground keeps to its box.
+    static QRect grown(QRect const& box, Look const& look);
+
+    /// By how much a text that does not fit is drawn narrower: 1 for a text that fits.
+    double narrowing() const;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    int indent() const;
+    double room() const;  // pixels for one line
+
+    Look m_look;
+};
+
+}  // namespace navarun::desktop

@@ -1,0 +1,22 @@
+// The program on the desktop.
+#include <QApplication>
+
+#include "desktop/application.h"
+#include "desktop/session.h"
+
+int main(int argc, char** argv) {
+    // Only there can a window be kept above or below all others.
+    if (qEnvironmentVariableIsSet("WAYLAND_DISPLAY") && qEnvironmentVariableIsSet("DISPLAY") &&
+        !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "xcb");
+    }
+    auto const folder = navarun::desktop::application_folder(argv[0]);
+    QApplication application{argc, argv};
+    // Windows that close do not end the program: its own question does.
+    QApplication::setQuitOnLastWindowClosed(false);
+    navarun::desktop::set_up(application);
+    navarun::desktop::Session session{folder, [] { QCoreApplication::exit(); }};
+    session.start();
+    if (!session.exit_status()) QApplication::exec();
+    return session.exit_status().value_or(0);
+}

@@ -1,0 +1,67 @@
+// Rendering of the pictures.
+#include "desktop/pictures.h"
+
+#include <QFile>
+
+namespace navarun::desktop {
+
+namespace {
+
+// "Image_Kundali(2)" is kept as Image_Kundali_2.svg, a single picture under its own name.
+QString resource_of(std::string const& name) {
+    QString file = QString::fromStdString(name);
+    file.replace(QLatin1Char('('), QLatin1Char('_')).remove(QLatin1Char(')'));
+    return QStringLiteral(":/pictures/%1.svg").arg(file);
+}
+
+// Where the hand points, at its nominal size.
+constexpr QPoint hand_hot_spot{12, 5};
+
+}  // namespace
+
+QSvgRenderer* Pictures::renderer(std::string const& name) {
+    if (name.empty()) return nullptr;
+    auto& known = m_renderers[name];
+    if (!known) {
+        known = std::make_unique<QSvgRenderer>();
+        QString const resource = resource_of(name);
+        if (QFile::exists(resource)) known->load(resource);
+    }
+    return known->isValid() ? known.get() : nullptr;
+}
+
+QSize Pictures::natural_size(std::string const& name) {
+    auto* const svg = renderer(name);
+    return svg == nullptr ? QSize{} : svg->defaultSize();
+}
+
+void Pictures::draw(QPainter& painter, std::string const& name, QRectF const& place) {
+    QSize const size = place.size().toSize();
+    if (size.isEmpty() || renderer(name) == nullptr) return;
+    double const ratio = painter.device()->devicePixelRatioF();
+    painter.drawPixmap(place.topLeft(), pixmap(name, size, ratio));
+}
+
+QPixmap Pictures::pixmap(std::string const& name, QSize size, double device_pixel_ratio) {
+    QSize const real = (QSizeF{size} * device_pixel_ratio).toSize();
+    std::string const key =
+        name + ":" + std::to_string(real.width()) + "x" + std::to_string(real.height());
+    auto& known = m_pixmaps[key];
+    if (known.isNull()) {
+        known = QPixmap{real};
+        known.fill(Qt::transparent);
+        QPainter painter{&known};
+        if (auto* const svg = renderer(name)) svg->render(&painter);
+    }
+    known.setDevicePixelRatio(device_pixel_ratio);
+    return known;
+}
+
+QCursor Pictures::hand_cursor(std::string const& name, double device_pixel_ratio) {
+    QSize const size = natural_size(name);
+    if (size.isEmpty()) return Qt::PointingHandCursor;
+    return QCursor{pixmap(name, size, device_pixel_ratio), hand_hot_spot.x(),
+                   hand_hot_spot.y()};
+}
+
+}  // namespace navarun::desktop

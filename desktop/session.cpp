@@ -1,0 +1,115 @@
+// Events in, changes out.
+#include "desktop/session.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QEventLoop>
+#include <QMessageBox>
+#include <QTimer>
+#include <algorithm>
+#include <utility>
+
+#include "desktop/form_window.h"
+#include "desktop/to_qt.h"
+
+namespace navarun::desktop {
+
+Session::Session(std::filesystem::path application_folder, std::function<void()> on_end)
+    : m_program{*this, std::move(application_folder)}, m_on_end{std::move(on_end)} {}
+
+Session::~Session() = default;
+
+void Session::start() {
+    for (auto* form : m_program.screen.forms()) {
+        m_windows.push_back(std::make_unique<FormWindow>(*this, *form));
+    }
+    try {
+        m_program.start();
+    } catch (ProgramEnded const&) {
+        end(0);
+    } catch (FatalError const&) {
+        end(1);
+    }
+    show_changes();
+}
+
+void Session::act(std::function<void(screen::User&)> const& event) {
+    if (m_exit_status) return;
+    try {
+        m_program.event(event);
+    } catch (screen::Refused const&) {
+        // The control was hidden or disabled by what the same gesture did before.
+    } catch (ProgramEnded const&) {
+        end(0);
+    } catch (FatalError const&) {
+        end(1);
+    }
+    show_changes();
+}
+
+void Session::show_changes() {
+    if (m_exit_status) return;
+    for (auto* control : m_program.screen.take_changed()) {
+        if (auto* const shown = window(control->form())) shown->show_control(*control);
+    }
+    if (auto* const focused = m_program.screen.focus()) {
+        if (auto* const shown = window(focused->form())) shown->show_focus(*focused);
+    }
+}
+
+FormWindow* Session::window(screen::Form const& form) const {
+    auto const found = std::ranges::find_if(
+        m_windows, [&](auto const& shown) { return &shown->form() == &form; });
+    return found == m_windows.end() ? nullptr : found->get();
+}
+
+void Session::end(int exit_status) {
+    m_exit_status = exit_status;
+    for (auto const& shown : m_windows) shown->hide();
+    // The innermost wait is left first; it then throws the operation that waits out.
+    if (m_waiting != nullptr) m_waiting->exit();
+    m_on_end();
+}
+
+Date Session::today() {
+    QDate const date = QDate::currentDate();
+    return *date_of(date.day(), date.month(), date.year());
+}
+
+double Session::seconds_since_midnight() {
+    return QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
+}
+
+void Session::wait(double seconds, std::string_view) {
+    show_changes();
+    QEventLoop loop;
+    QTimer timer;
+    timer.setSingleShot(true);
+    timer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
+    timer.start(static_cast<int>(seconds * 1000));
+    auto* const outer = std::exchange(m_waiting, &loop);
+    loop.exec();
+    m_waiting = outer;
+    if (!m_exit_status) return;
+    if (m_waiting != nullptr) m_waiting->exit();
+    throw ProgramEnded{};
+}
+
+Answer Session::box(std::string_view title, std::string_view text, BoxButtons buttons) {
+    show_changes();
+    QMessageBox box{QApplication::activeWindow()};
+    box.setWindowTitle(to_qt(title));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(to_qt(text));
+    bool const question = buttons == BoxButtons::ok_cancel;
+    box.setIcon(question ? QMessageBox::Question : QMessageBox::Warning);
+    box.setStandardButtons(question ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
+    box.setDefaultButton(QMessageBox::Ok);
+    bool const agreed = box.exec() == QMessageBox::Ok;
+    return agreed || !question ? Answer::ok : Answer::cancel;
+}
+
+bool Session::key_is_held(int code) { return m_program.user.key_held() == code; }
+
+}  // namespace navarun::desktop

@@ -1,0 +1,55 @@
+// One run of the program on the desktop: lets the user's events into the logic, shows what they
+// changed, and ends the run.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "desktop/pictures.h"
+#include "shell/program.h"
+
+class QEventLoop;
+
+namespace navarun::desktop {
+
+class FormWindow;
+
+class Session : public Platform {
+  public:
+    /// @param on_end  called once, when the run is over.
+    Session(std::filesystem::path application_folder, std::function<void()> on_end);
+    ~Session() override;
+
+    /// Brings the program and its windows up.
+    void start();
+    /// Lets one event in, then shows what it changed. An act that no user could do is let be.
+    void act(std::function<void(screen::User&)> const& event);
+    /// Shows what has changed since the last time.
+    void show_changes();
+
+    Program& program() { return m_program; }
+    Pictures& pictures() { return m_pictures; }
+    /// The window of a form; null before it is first shown.
+    FormWindow* window(screen::Form const& form) const;
+    /// Set once the run is over: 0 by the program's own doing, 1 by a fatal error.
+    std::optional<int> exit_status() const { return m_exit_status; }
+
+    Date today() override;
+    double seconds_since_midnight() override;
+    void wait(double seconds, std::string_view shown_message) override;
+    Answer box(std::string_view title, std::string_view text, BoxButtons buttons) override;
+    bool key_is_held(int code) override;
+
+  private:
+    void end(int exit_status);
+
+    Pictures m_pictures;
+    Program m_program;
+    std::vector<std::unique_ptr<FormWindow>> m_windows;
+    QEventLoop* m_waiting = nullptr;
+    std::optional<int> m_exit_status;
+    std::function<void()> m_on_end;
+};
+
+}  // namespace navarun::desktop

@@ -1,0 +1,53 @@
+// The conversions.
+#include "desktop/to_qt.h"
+
+#include <QTextDocument>
+
+namespace navarun::desktop {
+
+int to_pixels(int twips) { return qRound(static_cast<double>(twips) / twips_per_pixel); }
+
+QRect to_rect(screen::PlacedControl const& control) {
+    int const left = to_pixels(control.Left);
+    int const top = to_pixels(control.Top);
+    return {left, top, to_pixels(control.Left + control.Width) - left,
+            to_pixels(control.Top + control.Height) - top};
+}
+
+QString to_qt(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))
+        .replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+}
+
+std::string from_qt(QString const& text) {
+    return QString{text}.replace(QLatin1Char('\n'), QStringLiteral("\r\n")).toStdString();
+}
+
+QColor to_qt(screen::Colour colour) {
+    if (!colour.is_system()) return QColor::fromRgb(colour.rgb());
+    switch (colour.role()) {
+        case screen::SystemColour::title_bar:
+            return QColor::fromRgb(0x99B4D1);
+        case screen::SystemColour::window:
+        case screen::SystemColour::highlight_3d:
+            return Qt::white;
+    }
+    return Qt::white;
+}
+
+QFont font_of(screen::TextControl const& control) {
+    QFont font{to_qt(control.FontName.get())};
+    font.setPixelSize(qRound(control.FontSize.get() * 4 / 3));
+    font.setBold(control.FontBold);
+    font.setItalic(control.FontItalic);
+    return font;
+}
+
+QString plain_tooltip(std::string_view text) {
+    QString const plain = to_qt(text);
+    return Qt::mightBeRichText(plain)
+               ? QStringLiteral("<span>%1</span>").arg(plain.toHtmlEscaped())
+               : plain;
+}
+
+}  // namespace navarun::desktop

@@ -1,0 +1,34 @@
+// Values of the screen model in the toolkit's types.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QRect>
+#include <QString>
+#include <string>
+#include <string_view>
+
+#include "shell/screen/control.h"
+
+namespace navarun::desktop {
+
+/// Twips to the pixel.
+inline constexpr int twips_per_pixel = 15;
+
+int to_pixels(int twips);
+QRect to_rect(screen::PlacedControl const& control);
+
+/// UTF-8 with CR LF to the toolkit's text with LF, and back.
+QString to_qt(std::string_view text);
+std::string from_qt(QString const& text);
+
+/// System colours take the light ones that the window is designed with, whatever the theme.
+QColor to_qt(screen::Colour colour);
+
+/// In pixels (points times 4/3), so that texts and boxes scale together.
+QFont font_of(screen::TextControl const& control);
+
+/// A tool tip whose text is shown as it stands, never read as markup.
+QString plain_tooltip(std::string_view text);
+
+}  // namespace navarun::desktop
