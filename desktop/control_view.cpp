@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QListView>
 #include <QPainter>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QStringListModel>
 #include <QStyleOption>
@@ -54,6 +55,7 @@ class SurfaceWidget : public QWidget {
         QColor ground;  // invalid: none
         bool stretched = false;
         bool border = false;
+        std::vector<screen::DrawnLine> lines;  // the persistent ones first
         bool operator==(Look const&) const = default;
     };
     void set_look(Look const& look) {
@@ -68,6 +70,7 @@ class SurfaceWidget : public QWidget {
         if (m_look.ground.isValid()) painter.fillRect(rect(), m_look.ground);
         QSize const size = m_look.stretched ? this->size() : picture_size();
         m_pictures.draw(painter, m_look.picture, QRectF{QPointF{0, 0}, QSizeF{size}});
+        draw_lines(painter);
         if (m_look.border) {
             painter.setPen(QColor{0x64, 0x64, 0x64});
             painter.drawRect(rect().adjusted(0, 0, -1, -1));
@@ -75,6 +78,18 @@ class SurfaceWidget : public QWidget {
     }
 
   private:
+    void draw_lines(QPainter& painter) const {
+        if (m_look.lines.empty()) return;
+        painter.setRenderHint(QPainter::Antialiasing);
+        for (auto const& line : m_look.lines) {
+            painter.setPen(QPen{to_qt(line.colour), static_cast<double>(line.width),
+                                Qt::SolidLine, Qt::RoundCap});
+            painter.drawLine(QPointF{line.x1, line.y1} / twips_per_pixel,
+                             QPointF{line.x2, line.y2} / twips_per_pixel);
+        }
+        painter.setRenderHint(QPainter::Antialiasing, false);
+    }
+
     // At its nominal size, but never beyond the box by the pixel that rounding makes.
     QSize picture_size() const {
         QSize const natural = m_pictures.natural_size(m_look.picture);
@@ -101,19 +116,29 @@ class SurfaceView : public PlacedView<C, SurfaceWidget> {
 
   private:
     static SurfaceWidget::Look look_of(screen::Image const& image) {
-        return {
-            .picture = image.Picture.get().name(), .ground = {}, .stretched = image.Stretched};
+        return {.picture = image.Picture.get().name(),
+                .ground = {},
+                .stretched = image.Stretched,
+                .lines = {}};
     }
     static SurfaceWidget::Look look_of(screen::PictureBox const& box) {
+        auto lines = box.lines(screen::Layer::persistent);
+        auto const& rubber = box.lines(screen::Layer::rubber);
+        lines.insert(lines.end(), rubber.begin(), rubber.end());
         return {.picture = box.Picture.get().name(),
                 .ground = to_qt(box.BackColor.get()),
-                .border = box.Border};
+                .border = box.Border,
+                .lines = std::move(lines)};
     }
     static SurfaceWidget::Look look_of(screen::Frame const& frame) {
-        return {.picture = {}, .ground = to_qt(frame.BackColor.get()), .border = true};
+        return {
+            .picture = {}, .ground = to_qt(frame.BackColor.get()), .border = true, .lines = {}};
     }
     static SurfaceWidget::Look look_of(screen::Shape const& shape) {
-        return {.picture = {}, .ground = to_qt(shape.BackColor.get()), .border = shape.Border};
+        return {.picture = {},
+                .ground = shape.Filled ? to_qt(shape.BackColor.get()) : QColor{},
+                .border = shape.Border,
+                .lines = {}};
     }
 };
 
@@ -250,6 +275,30 @@ class ScrollBarView : public PlacedView<screen::ScrollBar, QScrollBar> {
     }
 };
 
+class OptionView : public PlacedView<screen::OptionButton, QRadioButton> {
+  public:
+    OptionView(Session& session, screen::OptionButton& option, QWidget& parent)
+        : PlacedView{session, option, new QRadioButton{&parent}} {
+        // The model keeps to one choice in a group.
+        shown().setAutoExclusive(false);
+        tell_focus(session, option, shown());
+        QObject::connect(&shown(), &QRadioButton::clicked, &shown(), [this] {
+            this->session().act([this](screen::User& user) { user.click(this->control()); });
+            show_content();  // the toolkit may have taken the mark off by itself
+        });
+    }
+
+  protected:
+    void show_content() override {
+        shown().setFont(font_of(control()));
+        shown().setText(to_qt(control().Caption.get()));
+        shown().setAutoFillBackground(true);
+        set_colour(shown(), QPalette::Window, to_qt(control().BackColor.get()));
+        set_colour(shown(), QPalette::WindowText, to_qt(control().ForeColor.get()));
+        shown().setChecked(control().Value);
+    }
+};
+
 class ListView : public PlacedView<screen::List, QListView> {
   public:
     ListView(Session& session, screen::List& list, QWidget& parent)
@@ -311,6 +360,8 @@ std::unique_ptr<ControlView> make_view(Session& session, screen::PlacedControl& 
             return make.operator()<SurfaceView<screen::PictureBox>, screen::PictureBox>();
         case screen::Kind::frame:
             return make.operator()<SurfaceView<screen::Frame>, screen::Frame>();
+        case screen::Kind::option_button:
+            return make.operator()<OptionView, screen::OptionButton>();
         case screen::Kind::shape:
             return make.operator()<SurfaceView<screen::Shape>, screen::Shape>();
         case screen::Kind::scroll_bar:

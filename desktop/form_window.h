@@ -34,6 +34,7 @@ class FormWindow : public QMainWindow {
     void make_menus();
     void chain_tab_order();
     void show_form();
+    bool is_main() const;
 
     Session& m_session;
     screen::Form& m_form;

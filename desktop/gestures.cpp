@@ -88,7 +88,11 @@ class FocusFilter : public QObject {
             case Qt::TabFocusReason:
             case Qt::BacktabFocusReason:
             case Qt::ShortcutFocusReason:
-                m_session.act([&](screen::User& user) { user.focus(m_control); });
+                take_focus();
+                break;
+            case Qt::ActiveWindowFocusReason:
+                // Back from another window of the program, whose control had the focus.
+                if (focus_is_elsewhere()) take_focus();
                 break;
             default:
                 break;
@@ -97,6 +101,15 @@ class FocusFilter : public QObject {
     }
 
   private:
+    void take_focus() {
+        m_session.act([&](screen::User& user) { user.focus(m_control); });
+    }
+
+    bool focus_is_elsewhere() const {
+        auto const* const focused = m_session.program().screen.focus();
+        return focused != nullptr && &focused->form() != &m_control.form();
+    }
+
     Session& m_session;
     screen::PlacedControl& m_control;
 };

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "core/calendar.h"
+#include "core/fatal_error.h"
 
 namespace navarun {
 
@@ -42,15 +43,6 @@ class Platform {
 class ProgramEnded : public std::exception {
   public:
     char const* what() const noexcept override { return "le programme est terminé"; }
-};
-
-/// A failure that ends the run with a report.
-class FatalError : public std::runtime_error {
-  public:
-    /// @param attempted  what was tried, in French, as the practitioner reads it
-    /// @param reason     why it failed
-    FatalError(std::string const& attempted, std::string const& reason)
-        : std::runtime_error{attempted + "\r\n" + reason} {}
 };
 
 namespace key {

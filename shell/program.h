@@ -9,9 +9,13 @@
 #include <string_view>
 #include <utility>
 
+#include "chart/arrow_values.h"
 #include "core/consultation.h"
 #include "core/lords.h"
+#include "files/durable_file.h"
+#include "files/folders.h"
 #include "periods/period_values.h"
+#include "shell/fleche.h"
 #include "shell/form1.h"
 #include "shell/platform.h"
 #include "shell/screen/screen.h"
@@ -23,6 +27,13 @@ namespace navarun {
 struct Settings {
     std::uint8_t couleur_kundali = 0;        // 0..3, the colour scheme
     std::uint8_t decalage_nom_seigneur = 0;  // 0 full names of the lords, 9 short ones
+};
+
+/// The colours that the scheme gives to the small windows.
+struct SchemeColours {
+    screen::Colour couleur_fond_fenetre;
+    screen::Colour couleur_liste;
+    screen::Colour couleur_titre_fenetre;
 };
 
 /// The values through which a question box is called.
@@ -66,18 +77,29 @@ class Program {
     /// @param lord  1..9. With full names anything below ends the run with a fatal error.
     std::string_view name_of_lord(int lord) const;
 
+    /// Where a path from the application folder on lies.
+    std::filesystem::path path_of(std::string_view path) const {
+        return application_folder / std::filesystem::path{path};
+    }
+
     Platform& platform;
     std::filesystem::path const application_folder;
 
     screen::Screen screen;
     screen::User user{screen};
     navarun::Form1 form1{screen};
+    navarun::Fleche fleche{screen};
 
     Consultation consultation;
     PeriodValues periods;
     Settings settings;
     Dialogue dialogue;
     DateEntry date_entry;
+    Folders folders;
+    SchemeColours scheme_colours;
+    ArrowValues arrow;
+    bool fleche_loaded = false;  // the arrow window has its settings
+    FolderLock instance;
     std::array<std::string, 10> url_defaut;
 
   private:
@@ -85,6 +107,7 @@ class Program {
     void report(FatalError const& error);
 
     bool m_reported = false;
+    bool m_started = false;
 };
 
 }  // namespace navarun

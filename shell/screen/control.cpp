@@ -44,6 +44,7 @@ bool Control::takes_focus() const {
         case Kind::combo:
         case Kind::list:
         case Kind::button:
+        case Kind::option_button:
         case Kind::scroll_bar:
             return true;
         default:
@@ -242,10 +243,34 @@ PictureBox::PictureBox(Form& form, std::string_view name, Design const& design,
       Picture{*this, design.picture},
       Border{*this, design.border} {}
 
+SurfacePicture& SurfacePicture::operator=(screen::Picture picture) {
+    m_picture = std::move(picture);
+    m_owner->m_persistent.clear();
+    m_owner->m_rubber.clear();
+    detail::mark_changed(*m_owner);
+    return *this;
+}
+
+std::vector<DrawnLine> const& PictureBox::lines(Layer layer) const {
+    return layer == Layer::persistent ? m_persistent : m_rubber;
+}
+
+void PictureBox::draw(Layer layer, DrawnLine const& line) {
+    (layer == Layer::persistent ? m_persistent : m_rubber).push_back(line);
+    detail::mark_changed(*this);
+}
+
+void PictureBox::clear_rubber() {
+    if (m_rubber.empty()) return;
+    m_rubber.clear();
+    detail::mark_changed(*this);
+}
+
 void PictureBox::visit(PropertyVisitor& visitor) const {
     PlacedControl::visit(visitor);
     visitor.property("Picture", &Picture.get());
     visitor.property("Border", Border.get());
+    visitor.property("Drawing", &m_persistent);
 }
 
 Frame::Frame(Form& form, std::string_view name, Design const& design)
@@ -259,9 +284,36 @@ void Frame::visit(PropertyVisitor& visitor) const {
     visitor.property("Border", Border.get());
 }
 
+OptionButton::OptionButton(Form& form, std::string_view name, Design const& design,
+                           Control* container, std::optional<int> index)
+    : TextControl{form, container, Kind::option_button, name, index, design},
+      Caption{*this, std::string{design.text}},
+      Value{*this, false} {}
+
+OptionValue& OptionValue::operator=(bool value) {
+    if (m_value == value) return *this;
+    m_value = value;
+    detail::mark_changed(*m_owner);
+    if (!value) return *this;
+    for (auto* control : m_owner->form().controls()) {
+        bool const same_group = control->kind() == Kind::option_button && control != m_owner &&
+                                control->container() == m_owner->container();
+        if (same_group) static_cast<OptionButton*>(control)->Value = false;
+    }
+    if (m_owner->on_click) m_owner->on_click();
+    return *this;
+}
+
+void OptionButton::visit(PropertyVisitor& visitor) const {
+    TextControl::visit(visitor);
+    visitor.property("Caption", std::string_view{Caption.get()});
+    visitor.property("Value", Value.get());
+}
+
 Shape::Shape(Form& form, std::string_view name, Design const& design, Control* container)
     : PlacedControl{form, container, Kind::shape, name, {}, design},
-      Border{*this, design.border} {}
+      Border{*this, design.border},
+      Filled{design.opaque} {}
 
 void Shape::visit(PropertyVisitor& visitor) const {
     PlacedControl::visit(visitor);
@@ -309,14 +361,16 @@ void MenuEntry::visit(PropertyVisitor& visitor) const {
 MenuSeparator::MenuSeparator(Form& form, std::string_view name, Control& menu)
     : Control{form, &menu, Kind::menu_separator, name, {}, {}} {}
 
-Form::Form(Screen& screen, std::string_view name, Design const& design)
+Form::Form(Screen& screen_, std::string_view name, Design const& design)
     : Control{*this, nullptr, Kind::form, name, {}, design},
       Caption{*this, std::string{design.text}},
       BackColor{*this, design.back},
       Width{*this, design.place.width},
       Height{*this, design.place.height},
-      m_screen{&screen} {
-    screen.m_forms.push_back(this);
+      Stacking{*this, screen::Stacking::normal},
+      Opening{design.place},
+      m_screen{&screen_} {
+    screen_.m_forms.push_back(this);
 }
 
 Control* Form::find(std::string_view name, std::optional<int> index) const {

@@ -99,6 +99,12 @@ void User::drag(ScrollBar& control, int value) {
     control.drag(value);
 }
 
+void User::set_option(OptionButton& control, bool chosen) {
+    require_usable(control);
+    m_screen->move_focus(control);
+    control.Value = chosen;
+}
+
 void User::choose(Control& control, int entry) {
     require_usable(control);
     if (auto* const combo = dynamic_cast<Combo*>(&control)) {
@@ -141,6 +147,10 @@ void User::click(Control& control) {
     if (auto* const combo = dynamic_cast<Combo*>(&control)) {
         combo->select_all();
         return;  // Click of a combo is the choice of an entry.
+    }
+    if (auto* const option = dynamic_cast<OptionButton*>(&control)) {
+        option->Value = true;  // fires Click where it was not chosen
+        return;
     }
     fire(control.on_click);
 }

@@ -57,6 +57,7 @@ class User {
     /// Throws BadValue outside the range of the scroll bar.
     void set_position(ScrollBar& control, int value);
     void drag(ScrollBar& control, int value);
+    void set_option(OptionButton& control, bool chosen);
 
     /// Takes an entry of a combo or list by its place, from 0. Throws UnknownEntry.
     void choose(Control& control, int entry);

@@ -63,6 +63,14 @@ Json to_json(NamedValue const& value) {
         Json operator()(double number) const { return number; }
         Json operator()(screen::Colour colour) const { return screen::to_text(colour); }
         Json operator()(std::vector<std::string> const& list) const { return list; }
+        Json operator()(std::vector<screen::DrawnLine> const& lines) const {
+            Json drawing = Json::array();
+            for (auto const& line : lines) {
+                drawing.push_back({line.x1, line.y1, line.x2, line.y2, line.width,
+                                   screen::to_text(line.colour)});
+            }
+            return drawing;
+        }
     };
     return std::visit(Writer{}, value);
 }
@@ -273,6 +281,12 @@ Json Pilot::set(Json const& request) {
     if (auto* const bar = dynamic_cast<screen::ScrollBar*>(&control)) {
         int const position = integer_of(value, "value");
         m_program.event([&](screen::User& user) { user.set_position(*bar, position); });
+        return ok;
+    }
+    if (auto* const option = dynamic_cast<screen::OptionButton*>(&control)) {
+        if (!value.is_boolean()) throw UsageError{"value : true ou false est attendu"};
+        bool const chosen = value.get<bool>();
+        m_program.event([&](screen::User& user) { user.set_option(*option, chosen); });
         return ok;
     }
     auto* const entry = dynamic_cast<screen::EntryControl*>(&control);
