@@ -281,6 +281,9 @@ class OptionView : public PlacedView<screen::OptionButton, QRadioButton> {
         : PlacedView{session, option, new QRadioButton{&parent}} {
         // The model keeps to one choice in a group.
         shown().setAutoExclusive(false);
+        shown().setBackgroundRole(QPalette::Window);
+        shown().setForegroundRole(QPalette::WindowText);
+        shown().setAutoFillBackground(true);
         tell_focus(session, option, shown());
         QObject::connect(&shown(), &QRadioButton::clicked, &shown(), [this] {
             this->session().act([this](screen::User& user) { user.click(this->control()); });
@@ -292,7 +295,6 @@ class OptionView : public PlacedView<screen::OptionButton, QRadioButton> {
     void show_content() override {
         shown().setFont(font_of(control()));
         shown().setText(to_qt(control().Caption.get()));
-        shown().setAutoFillBackground(true);
         set_colour(shown(), QPalette::Window, to_qt(control().BackColor.get()));
         set_colour(shown(), QPalette::WindowText, to_qt(control().ForeColor.get()));
         shown().setChecked(control().Value);

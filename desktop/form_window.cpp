@@ -16,8 +16,9 @@ FormWindow::FormWindow(Session& session, screen::Form& form)
     : m_session{session}, m_form{form}, m_canvas{new QWidget} {
     setObjectName(to_qt(form.name()));
     if (!is_main()) {
-        setWindowFlag(Qt::Tool);
-        setWindowFlag(Qt::WindowStaysOnTopHint);
+        // A small window beside the main one, above it and all others.
+        setWindowFlags(Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                       Qt::WindowCloseButtonHint | Qt::WindowStaysOnTopHint);
     }
     setContextMenuPolicy(Qt::NoContextMenu);
     m_canvas->setAutoFillBackground(true);
