@@ -6,6 +6,8 @@
 #include "core/birth_date_entry.h"
 #include "core/generate.h"
 #include "core/text.h"
+#include "files/address_book.h"
+#include "files/browser.h"
 #include "shell/image_store.h"
 #include "shell/program.h"
 
@@ -35,7 +37,14 @@ void set_birth_to(Program& program, Date date) {
 }
 
 void Command_reset_click(Program& program) {
-    if (program.form1.Command_reset.Picture.get() == picture::begin_anew) reset(program);
+    auto& form = program.form1;
+    if (form.Frame_Internet.Visible) Efface_Url(program);
+    auto const& role = form.Command_reset.Picture.get();
+    if (role == picture::begin_anew) {
+        reset(program);
+    } else if (role == picture::erase || role == picture::erase_portrait) {
+        Efface_fichier(program);
+    }
 }
 
 }  // namespace
@@ -44,6 +53,7 @@ void reset(Program& program) {
     auto& form = program.form1;
     efface_fleche(program);
     form.Picture_PHOTO.Picture = picture::ganesha;
+    program.consultation.fichier_photo = std::string{};
     empty_the_fields(form);
     set_birth_to(program, program.platform.today());
     program.screen.move_focus(form.Text_prenom);

@@ -34,6 +34,8 @@ void give_pointers(Form1& form) {
         form.Label_Solaire(cell).MouseIcon = picture::hand_cursor;
     }
     form.Picture_PHOTO.MouseIcon = picture::hand_cursor;
+    form.File_Fichier.MouseIcon = picture::hand_cursor;
+    form.List_Internet.MouseIcon = picture::hand_cursor;
 }
 
 void give_portrait_and_folders(Form1& form) {

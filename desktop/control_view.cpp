@@ -3,15 +3,14 @@
 
 #include <QAbstractButton>
 #include <QKeyEvent>
-#include <QListView>
 #include <QPainter>
 #include <QRadioButton>
 #include <QScrollBar>
-#include <QStringListModel>
 #include <QStyleOption>
 
 #include "desktop/entry_views.h"
 #include "desktop/label_widget.h"
+#include "desktop/list_view.h"
 #include "desktop/placed_view.h"
 
 namespace navarun::desktop {
@@ -56,6 +55,7 @@ class SurfaceWidget : public QWidget {
         bool stretched = false;
         bool border = false;
         std::vector<screen::DrawnLine> lines;  // the persistent ones first
+        std::optional<screen::PaintedFile> file;
         bool operator==(Look const&) const = default;
     };
     void set_look(Look const& look) {
@@ -70,6 +70,7 @@ class SurfaceWidget : public QWidget {
         if (m_look.ground.isValid()) painter.fillRect(rect(), m_look.ground);
         QSize const size = m_look.stretched ? this->size() : picture_size();
         m_pictures.draw(painter, m_look.picture, QRectF{QPointF{0, 0}, QSizeF{size}});
+        if (m_look.file) m_pictures.draw_file(painter, *m_look.file);
         draw_lines(painter);
         if (m_look.border) {
             painter.setPen(QColor{0x64, 0x64, 0x64});
@@ -109,6 +110,7 @@ class SurfaceView : public PlacedView<C, SurfaceWidget> {
         : PlacedView<C, SurfaceWidget>{session, control,
                                        new SurfaceWidget{session.pictures(), &parent}} {
         tell_mouse(session, control, this->shown());
+        if (control.on_file_drop) tell_file_drops(session, control, this->shown());
     }
 
   protected:
@@ -119,7 +121,8 @@ class SurfaceView : public PlacedView<C, SurfaceWidget> {
         return {.picture = image.Picture.get().name(),
                 .ground = {},
                 .stretched = image.Stretched,
-                .lines = {}};
+                .lines = {},
+                .file = {}};
     }
     static SurfaceWidget::Look look_of(screen::PictureBox const& box) {
         auto lines = box.lines(screen::Layer::persistent);
@@ -128,17 +131,20 @@ class SurfaceView : public PlacedView<C, SurfaceWidget> {
         return {.picture = box.Picture.get().name(),
                 .ground = to_qt(box.BackColor.get()),
                 .border = box.Border,
-                .lines = std::move(lines)};
+                .lines = std::move(lines),
+                .file = box.painted()};
     }
     static SurfaceWidget::Look look_of(screen::Frame const& frame) {
         return {
-            .picture = {}, .ground = to_qt(frame.BackColor.get()), .border = true, .lines = {}};
+            .picture = {}, .ground = to_qt(frame.BackColor.get()), .border = true, .lines = {},
+                .file = {}};
     }
     static SurfaceWidget::Look look_of(screen::Shape const& shape) {
         return {.picture = {},
                 .ground = shape.Filled ? to_qt(shape.BackColor.get()) : QColor{},
                 .border = shape.Border,
-                .lines = {}};
+                .lines = {},
+                .file = {}};
     }
 };
 
@@ -299,40 +305,6 @@ class OptionView : public PlacedView<screen::OptionButton, QRadioButton> {
         set_colour(shown(), QPalette::WindowText, to_qt(control().ForeColor.get()));
         shown().setChecked(control().Value);
     }
-};
-
-class ListView : public PlacedView<screen::List, QListView> {
-  public:
-    ListView(Session& session, screen::List& list, QWidget& parent)
-        : PlacedView{session, list, new QListView{&parent}} {
-        shown().setModel(&m_model);
-        shown().setEditTriggers(QAbstractItemView::NoEditTriggers);
-        shown().setUniformItemSizes(true);
-        tell_focus(session, list, shown());
-        QObject::connect(
-            &shown(), &QListView::clicked, &shown(), [this](QModelIndex const& at) {
-                this->session().act(
-                    [&](screen::User& user) { user.choose(this->control(), at.row()); });
-            });
-        QObject::connect(&shown(), &QListView::doubleClicked, &shown(), [this] {
-            this->session().act(
-                [this](screen::User& user) { user.double_click(this->control()); });
-        });
-    }
-
-  protected:
-    void show_content() override {
-        shown().setFont(font_of(control()));
-        set_colour(shown(), QPalette::Base, to_qt(control().BackColor.get()));
-        set_colour(shown(), QPalette::Text, to_qt(control().ForeColor.get()));
-        QStringList entries;
-        for (auto const& entry : control().Entries.get()) entries.append(to_qt(entry));
-        if (m_model.stringList() != entries) m_model.setStringList(entries);
-        shown().setCurrentIndex(m_model.index(control().ListIndex));
-    }
-
-  private:
-    QStringListModel m_model;
 };
 
 }  // namespace

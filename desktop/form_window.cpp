@@ -149,6 +149,14 @@ QWidget* FormWindow::widget(screen::Control const& control) const {
     return view == m_views.end() ? nullptr : view->second->widget();
 }
 
+screen::Control* FormWindow::control_of(QWidget const& widget) const {
+    for (auto* control : m_form.controls()) {
+        auto const view = m_views.find(control);
+        if (view != m_views.end() && view->second->widget() == &widget) return control;
+    }
+    return nullptr;
+}
+
 void FormWindow::closeEvent(QCloseEvent* event) {
     // The logic decides whether the window goes.
     event->ignore();

@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/code_page.h"
 #include "core/fatal_error.h"
 #include "core/text.h"
-#include "files/code_page.h"
 
 namespace navarun {
 

@@ -51,6 +51,8 @@ std::string reason_of(int number) {
 
 constexpr char const* reading = "La lecture";
 constexpr char const* writing = "L'écriture";
+constexpr char const* moving = "Le déplacement";
+constexpr char const* deleting = "La suppression";
 
 // An open file, closed with the block that holds it.
 class Descriptor {
@@ -104,6 +106,15 @@ class Unfinished {
     std::filesystem::path m_path;
 };
 
+// A change of names reaches the disk with its folder.
+void flush_folder(std::filesystem::path const& folder, char const* attempted,
+                  std::string const& shown_as) {
+    Descriptor const directory{open_file(folder, O_RDONLY | O_DIRECTORY)};
+    if (!directory.is_open() || ::fsync(directory.number()) != 0) {
+        fail(attempted, shown_as, errno);
+    }
+}
+
 }  // namespace
 
 std::string read_file(std::filesystem::path const& path, std::string const& shown_as) {
@@ -132,10 +143,19 @@ void write_file(std::filesystem::path const& path, std::string_view bytes,
     if (file.close_fails()) fail(writing, shown_as, errno);
     if (::rename(unfinished_path.c_str(), path.c_str()) != 0) fail(writing, shown_as, errno);
     unfinished.keep();
-    // The rename itself reaches the disk with its folder.
-    Descriptor const directory{open_file(folder, O_RDONLY | O_DIRECTORY)};
-    if (!directory.is_open() || ::fsync(directory.number()) != 0)
-        fail(writing, shown_as, errno);
+    flush_folder(folder, writing, shown_as);
+}
+
+void move_file(std::filesystem::path const& source, std::filesystem::path const& target,
+               std::string const& shown_as) {
+    if (::rename(source.c_str(), target.c_str()) != 0) fail(moving, shown_as, errno);
+    flush_folder(target.parent_path(), moving, shown_as);
+    flush_folder(source.parent_path(), moving, shown_as);
+}
+
+void delete_file(std::filesystem::path const& path, std::string const& shown_as) {
+    if (::unlink(path.c_str()) != 0) fail(deleting, shown_as, errno);
+    flush_folder(path.parent_path(), deleting, shown_as);
 }
 
 void remove_unfinished_file(std::filesystem::path const& folder) {

@@ -22,6 +22,14 @@ std::string read_file(std::filesystem::path const& path, std::string const& show
 void write_file(std::filesystem::path const& path, std::string_view bytes,
                 std::string const& shown_as);
 
+/// Moves a file, replacing any file of the target's name. Throws FatalError where it cannot be
+/// moved; it then stands where it was.
+void move_file(std::filesystem::path const& source, std::filesystem::path const& target,
+               std::string const& shown_as);
+
+/// Throws FatalError where the file cannot be deleted.
+void delete_file(std::filesystem::path const& path, std::string const& shown_as);
+
 /// Removes what a killed run left behind in `folder`. Nothing happens where there is nothing.
 void remove_unfinished_file(std::filesystem::path const& folder);
 

@@ -19,4 +19,22 @@ std::string record_bytes(Record const& record) {
     return line.bytes();
 }
 
+std::vector<Record> read_records(std::string bytes, std::string const& file) {
+    DelimitedReader reader{std::move(bytes), file};
+    std::vector<Record> records;
+    while (!reader.at_end()) {
+        Record& record = records.emplace_back();
+        record.first_name = reader.read_text();
+        record.last_name = reader.read_text();
+        record.day = reader.read_text();
+        record.month = reader.read_text();
+        record.century = reader.read_text();
+        record.year = reader.read_text();
+        record.julian = reader.read_byte();
+        record.portrait = reader.read_text();
+        record.note = reader.read_text();
+    }
+    return records;
+}
+
 }  // namespace navarun

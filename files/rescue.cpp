@@ -2,28 +2,11 @@
 #include "files/rescue.h"
 
 #include "files/durable_file.h"
-#include "files/record_format.h"
 #include "shell/program.h"
 
 namespace navarun {
 
 namespace {
-
-Record record_on_screen(Program& program) {
-    auto const& form = program.form1;
-    auto const& birth = program.consultation.birth;
-    return {
-        .first_name = form.Text_prenom.Text.get(),
-        .last_name = form.Text_nom.Text.get(),
-        .day = birth.jour_naissance(),
-        .month = birth.mois_naissance(),
-        .century = birth.siecle_naissance(),
-        .year = birth.annee_naissance(),
-        .julian = program.consultation.julien_actif,
-        .portrait = program.consultation.fichier_photo,
-        .note = form.Text_Note.Text.get(),
-    };
-}
 
 std::string free_name(Program& program) {
     std::string name = "SAUVETAGE.fcy";

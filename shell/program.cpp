@@ -9,6 +9,10 @@
 #include "core/julian_mode.h"
 #include "core/reset.h"
 #include "core/start_up.h"
+#include "files/address_book.h"
+#include "files/browser.h"
+#include "files/portrait.h"
+#include "files/records.h"
 #include "files/rescue.h"
 #include "files/settings.h"
 #include "periods/age_scroll.h"
@@ -33,6 +37,10 @@ Program::Program(Platform& platform_, std::filesystem::path application_folder_)
     wire_partial_cycle(*this);
     wire_reset(*this);
     wire_settings(*this);
+    wire_records(*this);
+    wire_browser(*this);
+    wire_portrait(*this);
+    wire_address_book(*this);
     wire_kundali(*this);
     wire_palace_colours(*this);
     wire_arrow_dialog(*this);

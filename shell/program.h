@@ -12,8 +12,10 @@
 #include "chart/arrow_values.h"
 #include "core/consultation.h"
 #include "core/lords.h"
+#include "files/browser_values.h"
 #include "files/durable_file.h"
 #include "files/folders.h"
+#include "files/records.h"
 #include "periods/period_values.h"
 #include "shell/fleche.h"
 #include "shell/form1.h"
@@ -41,6 +43,12 @@ struct Dialogue {
     std::string titre_dialogue;
     std::string texte_dialogue;
     std::uint8_t reponse_dialogue = 0;  // 1 OK, 2 Cancel
+};
+
+/// The reading of the initials, and the text looked up last.
+struct NameReading {
+    std::string texte_initiales;
+    std::string texte_lettre;
 };
 
 /// What the date fields remember between two keys.
@@ -96,6 +104,9 @@ class Program {
     Dialogue dialogue;
     DateEntry date_entry;
     Folders folders;
+    RecordValues record_values;
+    BrowserValues browser;
+    NameReading name_reading;
     SchemeColours scheme_colours;
     ArrowValues arrow;
     bool fleche_loaded = false;  // the arrow window has its settings

@@ -204,13 +204,66 @@ void Combo::visit(PropertyVisitor& visitor) const {
 }
 
 List::List(Form& form, std::string_view name, Design const& design, Control* container)
-    : TextControl{form, container, Kind::list, name, {}, design},
-      Entries{*this, {}},
-      ListIndex{*this, -1} {}
+    : TextControl{form, container, Kind::list, name, {}, design}, ListIndex{*this} {}
+
+std::vector<std::string> const& List::entries() const {
+    if (m_stale) {
+        m_stale = false;
+        m_entries = m_source();
+    }
+    return m_entries;
+}
+
+std::string List::selected() const {
+    return ListIndex.get() < 0 ? std::string{}
+                               : entries()[static_cast<std::size_t>(ListIndex.get())];
+}
+
+void List::entries_changed() {
+    ++m_version;
+    detail::mark_changed(*this);
+}
+
+void List::add(std::string entry) {
+    m_entries.push_back(std::move(entry));
+    entries_changed();
+}
+
+void List::remove(int place) {
+    m_entries.erase(m_entries.begin() + place);
+    ListIndex = -1;
+    entries_changed();
+}
+
+void List::clear() {
+    m_entries.clear();
+    ListIndex = -1;
+    entries_changed();
+}
+
+void List::set_source(std::function<std::vector<std::string>()> source) {
+    m_source = std::move(source);
+    refresh();
+}
+
+void List::refresh() {
+    m_stale = static_cast<bool>(m_source);
+    ListIndex = -1;
+    entries_changed();
+}
+
+ListPlace& ListPlace::operator=(int value) {
+    // None needs no look at the entries, which may be many and not yet read.
+    int const place = value < 0 || value >= m_owner->count() ? -1 : value;
+    if (m_value != place) detail::mark_changed(*m_owner);
+    m_value = place;
+    if (place >= 0 && m_owner->on_click) m_owner->on_click();
+    return *this;
+}
 
 void List::visit(PropertyVisitor& visitor) const {
     TextControl::visit(visitor);
-    visitor.property("List", &Entries.get());
+    visitor.property("List", &entries());
     visitor.property("ListIndex", ListIndex.get());
 }
 
@@ -247,8 +300,14 @@ SurfacePicture& SurfacePicture::operator=(screen::Picture picture) {
     m_picture = std::move(picture);
     m_owner->m_persistent.clear();
     m_owner->m_rubber.clear();
+    m_owner->m_painted.reset();
     detail::mark_changed(*m_owner);
     return *this;
+}
+
+void PictureBox::paint(PaintedFile file, std::string_view file_name) {
+    Picture = screen::Picture{"file:" + std::string{file_name}};
+    m_painted = std::move(file);
 }
 
 std::vector<DrawnLine> const& PictureBox::lines(Layer layer) const {

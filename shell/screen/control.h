@@ -156,6 +156,11 @@ class Control {
     std::function<void(Mouse const&)> on_mouse_down;
     std::function<void(Mouse const&)> on_mouse_move;
     std::function<void(Mouse const&)> on_mouse_up;
+    /// A record is dragged over the control, or dropped on it.
+    std::function<void()> on_drag_over;
+    std::function<void()> on_drag_drop;
+    /// A file is dropped from outside.
+    std::function<void(std::string const& path)> on_file_drop;
 
   private:
     friend class Screen;
@@ -303,13 +308,57 @@ class Combo : public EntryControl {
     std::vector<std::string> m_entries;
 };
 
+/// The selected place of a list, from 0; -1 for none. A routine that selects an entry fires the
+/// list's Click; taking the selection away fires nothing.
+class List;
+class ListPlace {
+  public:
+    explicit ListPlace(List& owner) : m_owner{&owner} {}
+    ListPlace(ListPlace const&) = delete;
+    ListPlace& operator=(ListPlace const&) = delete;
+
+    int get() const { return m_value; }
+    operator int() const { return m_value; }
+    /// A place outside the list is none.
+    ListPlace& operator=(int value);
+
+  private:
+    friend class List;
+    List* m_owner;
+    int m_value = -1;
+};
+
+/// Entries of one line each. They are held as they are added, or read from a source when somebody
+/// looks: a list that is hidden and has become stale costs nothing.
 class List : public TextControl {
   public:
     List(Form& form, std::string_view name, Design const& design, Control* container = nullptr);
     void visit(PropertyVisitor& visitor) const override;
 
-    Property<std::vector<std::string>> Entries;
-    Property<int> ListIndex;
+    std::vector<std::string> const& entries() const;
+    int count() const { return static_cast<int>(entries().size()); }
+    /// Another number after each change of the entries.
+    unsigned version() const { return m_version; }
+    /// The selected entry; empty where there is none.
+    std::string selected() const;
+    void add(std::string entry);
+    /// REQUIRES a place in the list. The selection goes.
+    void remove(int place);
+    void clear();
+    /// From now on the entries come from `source`, asked anew after each refresh.
+    void set_source(std::function<std::vector<std::string>()> source);
+    /// The entries have changed at their source. The selection goes.
+    void refresh();
+
+    ListPlace ListIndex;
+
+  private:
+    std::function<std::vector<std::string>()> m_source;
+    void entries_changed();
+
+    unsigned m_version = 1;
+    mutable bool m_stale = false;
+    mutable std::vector<std::string> m_entries;
 };
 
 class Button : public TextControl {
@@ -355,6 +404,16 @@ class SurfacePicture {
     screen::Picture m_picture;
 };
 
+/// A picture file painted into a box, in pixels of the box.
+struct PaintedFile {
+    std::string path;
+    double x = 0;
+    double y = 0;
+    double width = 0;
+    double height = 0;
+    bool operator==(PaintedFile const&) const = default;
+};
+
 /// A picture on which other controls lie, and on which lines can be drawn.
 class PictureBox : public PlacedControl {
   public:
@@ -364,6 +423,10 @@ class PictureBox : public PlacedControl {
 
     SurfacePicture Picture;
     Property<bool> Border;
+
+    /// Shows a picture file in place of the picture; its name is the picture's from now on.
+    void paint(PaintedFile file, std::string_view file_name);
+    std::optional<PaintedFile> const& painted() const { return m_painted; }
 
     std::vector<DrawnLine> const& lines(Layer layer) const;
     void draw(Layer layer, DrawnLine const& line);
@@ -376,6 +439,7 @@ class PictureBox : public PlacedControl {
     friend class SurfacePicture;
     std::vector<DrawnLine> m_persistent;
     std::vector<DrawnLine> m_rubber;
+    std::optional<PaintedFile> m_painted;
     int m_draw_width = 1;
 };
 

@@ -70,6 +70,10 @@ class User {
     /// KeyDown and KeyPress of a key code; the key edits nothing. While it lasts,
     /// key_held() tells the key.
     void key(Control& control, int code);
+    /// Drops what is dragged on `control`: drag over, then drop. Refused without a drag.
+    void drop(Control& control);
+    /// Drops a file from outside on `control`. Refused where it takes none.
+    void drop_file(Control& control, std::string const& path);
     void mouse(Control& control, std::string_view event, Mouse const& where);
     void close(Form& form);
 

@@ -356,8 +356,14 @@ Json Pilot::mouse(Json const& request) {
 }
 
 Json Pilot::drop(Json const& request) {
-    control_of(request);
-    throw screen::Refused{"rien n'est tiré"};
+    auto& control = control_of(request);
+    if (request.contains("file")) {
+        std::string const file = string_of(request, "file");
+        m_program.event([&](screen::User& user) { user.drop_file(control, file); });
+    } else {
+        m_program.event([&](screen::User& user) { user.drop(control); });
+    }
+    return ok;
 }
 
 Json Pilot::close(Json const& request) {
