@@ -26,8 +26,8 @@ struct NearLetter {
     char16_t letter;  // of the code page
 };
 
-// The Latin letters that the code page lacks, in ascending order, each with the letter that it has
-// without its marks.
+// The Latin letters that the code page lacks, in ascending order, each with the letter that it
+// has without its marks.
 // clang-format off
 constexpr NearLetter near_letters[] = {
     {0x0100, 0x41}, {0x0101, 0x61}, {0x0102, 0x41}, {0x0103, 0x61}, {0x0104, 0x41},
@@ -126,7 +126,8 @@ constexpr NearLetter near_letters[] = {
 static_assert(std::ranges::is_sorted(near_letters, {}, &NearLetter::character));
 
 bool in_code_page(char32_t character) {
-    bool const own_number = character < first_upper_control || (character >= 160 && character < 256);
+    bool const own_number =
+        character < first_upper_control || (character >= 160 && character < 256);
     return own_number || std::ranges::find(upper_controls, character) != upper_controls.end();
 }
 
@@ -142,9 +143,9 @@ char byte_of(char32_t character) {
 
 char32_t nearest_in_code_page(char32_t character) {
     if (in_code_page(character)) return character;
-    auto const near = std::ranges::lower_bound(near_letters, character, {}, [](auto const& row) {
-        return static_cast<char32_t>(row.character);
-    });
+    auto const near = std::ranges::lower_bound(
+        near_letters, character, {},
+        [](auto const& row) { return static_cast<char32_t>(row.character); });
     bool const known = near != std::end(near_letters) && near->character == character;
     return known ? near->letter : U'?';
 }
@@ -161,7 +162,8 @@ std::string fitted_to_code_page(std::string_view text) {
 std::string to_code_page(std::string_view text) {
     std::string bytes;
     bytes.reserve(text.size());
-    for (char32_t const character : text::characters(text)) bytes.push_back(byte_of(nearest_in_code_page(character)));
+    for (char32_t const character : text::characters(text))
+        bytes.push_back(byte_of(nearest_in_code_page(character)));
     return bytes;
 }
 

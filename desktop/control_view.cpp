@@ -135,8 +135,10 @@ class SurfaceView : public PlacedView<C, SurfaceWidget> {
                 .file = box.painted()};
     }
     static SurfaceWidget::Look look_of(screen::Frame const& frame) {
-        return {
-            .picture = {}, .ground = to_qt(frame.BackColor.get()), .border = true, .lines = {},
+        return {.picture = {},
+                .ground = to_qt(frame.BackColor.get()),
+                .border = true,
+                .lines = {},
                 .file = {}};
     }
     static SurfaceWidget::Look look_of(screen::Shape const& shape) {

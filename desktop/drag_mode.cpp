@@ -46,7 +46,8 @@ bool DragMode::eventFilter(QObject*, QEvent* event) {
         // On the list the drag only comes from.
         if (target == screen.focus()) return true;
         m_session.act([&](screen::User& user) {
-            bool const takes = target != nullptr && (target->on_drag_drop || target->on_drag_over);
+            bool const takes =
+                target != nullptr && (target->on_drag_drop || target->on_drag_over);
             if (takes) {
                 user.drop(*target);
             } else {

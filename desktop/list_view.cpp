@@ -83,8 +83,7 @@ ListView::ListView(Session& session, screen::List& list, QWidget& parent)
                          }
                      });
     QObject::connect(&view, &QListView::doubleClicked, &view, [this] {
-        this->session().act(
-            [this](screen::User& user) { user.double_click(this->control()); });
+        this->session().act([this](screen::User& user) { user.double_click(this->control()); });
     });
 }
 

@@ -34,7 +34,7 @@ class Pictures {
     QSvgRenderer* renderer(std::string const& name);
 
     std::map<std::string, std::unique_ptr<QSvgRenderer>> m_renderers;
-    std::map<std::string, QPixmap> m_pixmaps;  // by name and real size
+    std::map<std::string, QPixmap> m_pixmaps;   // by name and real size
     std::optional<screen::PaintedFile> m_file;  // the one drawn last, and how it came out
     double m_file_ratio = 0;
     QImage m_file_image;

@@ -130,8 +130,9 @@ void Session::open(std::string_view target) {
 PictureSize Session::picture_size(std::filesystem::path const& file) {
     QSize const size = Pictures::file_size(QString::fromStdString(file.string()));
     if (size.isEmpty()) {
-        throw FatalError{"L'image « " + file.filename().string() + " » n'a pas pu être affichée.",
-                         "Ce fichier n'est pas une image que le programme sait lire."};
+        throw FatalError{
+            "L'image « " + file.filename().string() + " » n'a pas pu être affichée.",
+            "Ce fichier n'est pas une image que le programme sait lire."};
     }
     return {size.width(), size.height()};
 }

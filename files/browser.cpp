@@ -63,9 +63,8 @@ void make_folder_active(Program& program, int folder) {
 }
 
 void show_folder(Program& program, std::string const& folder, Endings const& endings) {
-    program.form1.File_Fichier.set_source([&program, folder, &endings] {
-        return list_files(program.path_of(folder), endings);
-    });
+    program.form1.File_Fichier.set_source(
+        [&program, folder, &endings] { return list_files(program.path_of(folder), endings); });
 }
 
 void give_reset_its_role_back(Form1& form) {

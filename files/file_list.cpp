@@ -1,11 +1,11 @@
 // Reading a folder, and comparing names.
 #include "files/file_list.h"
 
-#include <dirent.h>
-
 #include <algorithm>
 #include <cstring>
 #include <utility>
+
+#include <dirent.h>
 
 #include "core/code_page.h"
 #include "core/text.h"
@@ -27,13 +27,13 @@ std::string capital_form(std::string_view name) {
 
 bool ends_with_ignoring_case(std::string_view name, std::string_view ending) {
     return name.size() >= ending.size() &&
-           std::ranges::equal(name.substr(name.size() - ending.size()), ending,
-                              [](char one, char other) {
-                                  auto const small = [](char c) {
-                                      return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
-                                  };
-                                  return small(one) == small(other);
-                              });
+           std::ranges::equal(
+               name.substr(name.size() - ending.size()), ending, [](char one, char other) {
+                   auto const small = [](char c) {
+                       return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
+                   };
+                   return small(one) == small(other);
+               });
 }
 
 bool is_file(std::filesystem::path const& folder, dirent const& entry) {

@@ -86,7 +86,9 @@ void wire_portrait(Program& program) {
     auto& box = program.form1.Picture_PHOTO;
     box.on_double_click = [&program] { back_to_ganesha(program); };
     box.on_mouse_move = [&program](screen::Mouse const&) { name_portrait(program); };
-    box.on_file_drop = [&program](std::string const& path) { take_dropped_file(program, path); };
+    box.on_file_drop = [&program](std::string const& path) {
+        take_dropped_file(program, path);
+    };
 }
 
 }  // namespace navarun

@@ -17,8 +17,8 @@ extern Endings const portrait_endings;
 /// @param name  file name without folder
 void affiche_image_ajustee(Program& program, std::string const& name);
 
-/// Takes a picture of the portrait folder as the portrait, as a choice in the list does: the record
-/// has changes to be saved, and the browser closes.
+/// Takes a picture of the portrait folder as the portrait, as a choice in the list does: the
+/// record has changes to be saved, and the browser closes.
 void choose_portrait(Program& program, std::string const& name);
 
 /// The double click, the pointer and the files dropped on the portrait.

@@ -8,8 +8,8 @@
 
 namespace navarun {
 
-/// A portrait's file name without folder; a truth value where the portrait of a loaded record was
-/// gone.
+/// A portrait's file name without folder; a truth value where the portrait of a loaded record
+/// was gone.
 using PortraitName = std::variant<std::string, bool>;
 
 struct Record {
@@ -28,8 +28,8 @@ struct Record {
 std::string record_bytes(Record const& record);
 
 /// The records of a file; a well-formed one has one. A truth value in place of the portrait is
-/// read as the text that it is written as. Throws FatalError where the file ends inside a record
-/// or the Julian flag is no number from 0 to 255.
+/// read as the text that it is written as. Throws FatalError where the file ends inside a
+/// record or the Julian flag is no number from 0 to 255.
 /// @param file  its name, as a report names it
 std::vector<Record> read_records(std::string bytes, std::string const& file);
 

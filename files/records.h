@@ -11,8 +11,8 @@ class Program;
 
 /// What saving and loading remember.
 struct RecordValues {
-    std::string chemin_fichier;      // the record last written
-    std::string fichier_selectionne; // the file chosen in the list
+    std::string chemin_fichier;       // the record last written
+    std::string fichier_selectionne;  // the file chosen in the list
     std::string note_consultant;
     std::string prenom_lu;
     std::string nom_lu;
@@ -21,8 +21,8 @@ struct RecordValues {
 /// The consultation as its fields show it.
 Record record_on_screen(Program& program);
 
-/// Writes the consultation to the active folder, replacing any record of the same name, and says
-/// so. A missing name is replaced on screen too, by the birth date and "Consultant".
+/// Writes the consultation to the active folder, replacing any record of the same name, and
+/// says so. A missing name is replaced on screen too, by the birth date and "Consultant".
 void Sauve_data(Program& program);
 
 /// Loads the selected record: fields, computation, marks; then closes the browser. A birth date

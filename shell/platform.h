@@ -41,12 +41,12 @@ class Platform {
     /// Shows a box until the user answers it. A box that has only OK answers ok.
     virtual Answer box(std::string_view title, std::string_view text, BoxButtons buttons) = 0;
 
-    /// Hands a document, program or web address to the desktop's opener; what comes of it is not
-    /// looked at.
+    /// Hands a document, program or web address to the desktop's opener; what comes of it is
+    /// not looked at.
     virtual void open(std::string_view target) = 0;
 
-    /// The size of a picture file in pixels, once it is known that the file can be shown. Throws
-    /// FatalError where it cannot.
+    /// The size of a picture file in pixels, once it is known that the file can be shown.
+    /// Throws FatalError where it cannot.
     virtual PictureSize picture_size(std::filesystem::path const& file) = 0;
 
     /// Whether the user holds the key of that code down at this moment.

@@ -328,8 +328,8 @@ class ListPlace {
     int m_value = -1;
 };
 
-/// Entries of one line each. They are held as they are added, or read from a source when somebody
-/// looks: a list that is hidden and has become stale costs nothing.
+/// Entries of one line each. They are held as they are added, or read from a source when
+/// somebody looks: a list that is hidden and has become stale costs nothing.
 class List : public TextControl {
   public:
     List(Form& form, std::string_view name, Design const& design, Control* container = nullptr);

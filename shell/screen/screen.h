@@ -25,8 +25,8 @@ class Screen {
     /// REQUIRES control.takes_focus().
     void move_focus(Control& control);
 
-    /// Begins to drag what `carrier` stands for. It ends with a drop, or with anything else that the
-    /// user does.
+    /// Begins to drag what `carrier` stands for. It ends with a drop, or with anything else
+    /// that the user does.
     void begin_drag(Control& carrier);
     void end_drag();
     /// What is being dragged; null for nothing.

@@ -54,7 +54,8 @@ void User::type(char32_t character) {
     auto* const entry = dynamic_cast<EntryControl*>(control);
     if (swallowed || entry == nullptr || entry->read_only()) return;
     // A handler of KeyPress may have moved the focus or closed the field.
-    if (m_screen->focus() != control || !entry->has_room() || !is_text(*entry, character)) return;
+    if (m_screen->focus() != control || !entry->has_room() || !is_text(*entry, character))
+        return;
     int const caret = entry->selection().start + 1;
     entry->edit(entry->with_typed(nearest_in_code_page(character)), caret);
 }
@@ -190,7 +191,8 @@ void User::drop(Control& control) {
     if (m_screen->dragged() == nullptr) throw Refused{"rien n'est tiré"};
     require_usable(control);
     fire(control.on_drag_over);
-    if (m_screen->dragged() == nullptr) return;  // ended by the control that it was dragged over
+    if (m_screen->dragged() == nullptr)
+        return;  // ended by the control that it was dragged over
     m_screen->end_drag();
     fire(control.on_drag_drop);
 }
