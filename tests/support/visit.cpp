@@ -111,6 +111,18 @@ bool Visit::truth(std::string_view name) {
     return found.get<bool>();
 }
 
+std::vector<std::string> Visit::cells(std::string_view array, std::string_view property) {
+    std::vector<std::string> values;
+    for (int i = 1; i <= 12; ++i) {
+        std::string name{array};
+        name.append("(").append(std::to_string(i)).append(").").append(property);
+        values.push_back(text(name));
+    }
+    return values;
+}
+
+Json Visit::dump() { return ask({{"op", "dump"}, {"form", "Form1"}})["controls"]; }
+
 Json Visit::effects() { return ask({{"op", "effects"}})["effects"]; }
 
 }  // namespace navarun::test

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "tools/pilote/pilot.h"
 
@@ -58,6 +59,10 @@ class Visit {
     std::string text(std::string_view name);
     int number(std::string_view name);
     bool truth(std::string_view name);
+    /// A property of the twelve members of an array, 1 to 12 at 0 to 11.
+    std::vector<std::string> cells(std::string_view array, std::string_view property);
+    /// All controls of the main window with all their properties.
+    Json dump();
     /// What reached the outside since the last asking.
     Json effects();
 
