@@ -265,6 +265,16 @@ void annee99(Program& program) {
     consultation.annee_calcul = birth.year();
 }
 
+void write_date_combos(Program& program) {
+    auto& form = program.form1;
+    // The changes write the parts too; what stands in them now is what is meant.
+    BirthDate const birth = program.consultation.birth;
+    form.Combo_jourNaiss.Text = birth.jour_naissance();
+    form.Combo_moisNaiss.Text = birth.mois_naissance();
+    form.Combo_AnNaiss1.Text = birth.siecle_naissance();
+    form.Combo_AnNaiss2.Text = birth.annee_naissance();
+}
+
 void wire_birth_date_entry(Program& program) {
     for (auto const& field : date_fields) wire_date_field(program, field);
     wire_name(program, program.form1.Text_prenom);

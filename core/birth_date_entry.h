@@ -10,6 +10,9 @@ class Program;
 /// rebuilds the date and the first cycle year.
 void annee99(Program& program);
 
+/// Writes the four parts of the birth date into their fields, whose changes fire.
+void write_date_combos(Program& program);
+
 /// The keys, changes, choices and leaves of the fields, and the button of the present age.
 void wire_birth_date_entry(Program& program);
 

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "core/calendar.h"
+#include "files/record_format.h"
 
 namespace navarun {
 
@@ -88,6 +89,8 @@ struct Consultation {
     std::string texte_dinanka;
     std::string texte_purnanka;
     std::string texte_nakshatra;
+
+    PortraitName fichier_photo;
 };
 
 }  // namespace navarun

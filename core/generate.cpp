@@ -1,6 +1,7 @@
 // The pipeline of a generation, in its order.
 #include "core/generate.h"
 
+#include "chart/kundali.h"
 #include "periods/age_scroll.h"
 #include "periods/maha_dasha.h"
 #include "periods/partial_cycle.h"
@@ -19,8 +20,7 @@ void generate(Program& program) {
         program.platform.box("Erreur", "Date de naissance invalide !", BoxButtons::ok);
         return;
     }
-    form.Picture_KUNDALI.Picture =
-        screen::Picture{"Image_Kundali", program.settings.couleur_kundali};
+    load_chart(program);
     change_couleurAge(program, "vert");
     CyclePartiel_annule(program);
     form.Mnuperiode.Enabled = true;

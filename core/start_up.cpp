@@ -1,8 +1,11 @@
 // The first calculation and the last question.
 #include "core/start_up.h"
 
+#include "chart/kundali.h"
+#include "core/birth_date_entry.h"
 #include "core/dialogue.h"
-#include "core/text.h"
+#include "files/address_book.h"
+#include "files/settings.h"
 #include "periods/age_scroll.h"
 #include "periods/maha_dasha.h"
 #include "periods/tri_deva.h"
@@ -24,15 +27,18 @@ constexpr std::array<std::string_view, 10> default_addresses{
     "www.biography.com",   "www.geneanet.org",
 };
 
-void give_pictures(Form1& form) {
+void give_pointers(Form1& form) {
     for (int cell = 1; cell <= 12; ++cell) {
         form.Label_mois(cell).MouseIcon = picture::hand_cursor;
         form.Label_Dasha(cell).MouseIcon = picture::hand_cursor;
         form.Label_Solaire(cell).MouseIcon = picture::hand_cursor;
     }
     form.Picture_PHOTO.MouseIcon = picture::hand_cursor;
-    form.Command_Disk_Vert.Picture = picture::saved;
-    form.Command_reset.Picture = picture::begin_anew;
+    form.File_Fichier.MouseIcon = picture::hand_cursor;
+    form.List_Internet.MouseIcon = picture::hand_cursor;
+}
+
+void give_portrait_and_folders(Form1& form) {
     form.Picture_PHOTO.Picture = picture::ganesha;
     form.Charge(1).Picture = screen::Picture{"DOSSIER", 1};
     form.Charge(1).ToolTipText = "Dossier 1 Actif";
@@ -40,17 +46,20 @@ void give_pictures(Form1& form) {
     form.Charge(2).ToolTipText = "Dossier 2 Inactif";
 }
 
+void refuse_second_instance(Program& program) {
+    if (program.instance.take(program.application_folder)) return;
+    program.platform.box("N.A.V.A.R.U.N", "Le logiciel N.A.V.A.R.U.N est déjà actif !",
+                         BoxButtons::ok);
+    throw ProgramEnded{};
+}
+
 void set_first_date(Program& program) {
-    auto& form = program.form1;
     auto& birth = program.consultation.birth;
     birth.set_jour_naissance("01");
     birth.set_mois_naissance("01");
     birth.set_siecle_naissance("19");
     birth.set_annee_naissance("00");
-    form.Combo_jourNaiss.Text = birth.jour_naissance();
-    form.Combo_moisNaiss.Text = birth.mois_naissance();
-    form.Combo_AnNaiss1.Text = birth.siecle_naissance();
-    form.Combo_AnNaiss2.Text = birth.annee_naissance();
+    write_date_combos(program);
 }
 
 }  // namespace
@@ -59,9 +68,18 @@ void Form_Load(Program& program) {
     auto& form = program.form1;
     auto& consultation = program.consultation;
     auto& birth = consultation.birth;
+    refuse_second_instance(program);
     std::ranges::copy(default_addresses, program.url_defaut.begin());
-    give_pictures(form);
+    give_pointers(form);
+    form.Command_Disk_Vert.Picture = picture::saved;
+    form.Command_reset.Picture = picture::begin_anew;
     program.periods.cycle_partiel_actif = false;
+    cree_repertoire(program);
+    set_paths(program.folders);
+    Fichier_config(program);
+    Choix_Couleur_Kundali(program);
+    create_address_book(program);
+    give_portrait_and_folders(form);
     form.HScroll_age.Maximum = greatest_age;
     set_first_date(program);
     consultation.age_courant = 1;

@@ -5,8 +5,9 @@ namespace navarun {
 
 class Program;
 
-/// Fills the fixed values, sets the date 01/01/1900 and runs one whole calculation, so that the
-/// window opens on a finished grid.
+/// Refuses a second instance in the same folder: throws ProgramEnded after its message. Makes
+/// the folders, reads the settings, fills the fixed values, sets the date 01/01/1900 and runs
+/// one whole calculation, so that the window opens on a finished grid.
 void Form_Load(Program& program);
 
 /// Asks, and ends the program where the user agrees: throws ProgramEnded. Nothing is saved.

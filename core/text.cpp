@@ -188,9 +188,11 @@ std::string_view last(std::string_view text, std::size_t count) {
     return text.substr(text.size() - std::min(count, text.size()));
 }
 
-std::string replace_all(std::string text, std::string_view from, std::string_view to) {
+std::string Replace_Char(std::string text, std::string_view from, std::string_view to) {
     if (from.empty()) return text;
-    for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos; at += to.size()) {
+    bool const never_ends = to.find(from) != std::string_view::npos;
+    for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos;
+         at = never_ends ? at + to.size() : 0) {
         text.replace(at, from.size(), to);
     }
     return text;

@@ -41,8 +41,9 @@ std::string two_digits(std::string_view text);
 /// The last `count` bytes, all where there are fewer. For texts of digits.
 std::string_view last(std::string_view text, std::size_t count);
 
-/// `text` with every `from` replaced by `to`. What is put in is not searched again, so that a
-/// replacement that contains what it replaces ends too. An empty `from` changes nothing.
-std::string replace_all(std::string text, std::string_view from, std::string_view to);
+/// `text` with every `from` replaced by `to`. The search begins anew after each replacement, so
+/// that what closes up to a `from` is replaced as well; but where `to` holds `from`, what is
+/// put in is not searched again. An empty `from` changes nothing.
+std::string Replace_Char(std::string text, std::string_view from, std::string_view to);
 
 }  // namespace navarun::text

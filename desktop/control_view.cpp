@@ -3,14 +3,14 @@
 
 #include <QAbstractButton>
 #include <QKeyEvent>
-#include <QListView>
 #include <QPainter>
+#include <QRadioButton>
 #include <QScrollBar>
-#include <QStringListModel>
 #include <QStyleOption>
 
 #include "desktop/entry_views.h"
 #include "desktop/label_widget.h"
+#include "desktop/list_view.h"
 #include "desktop/placed_view.h"
 
 namespace navarun::desktop {
@@ -54,6 +54,8 @@ class SurfaceWidget : public QWidget {
         QColor ground;  // invalid: none
         bool stretched = false;
         bool border = false;
+        std::vector<screen::DrawnLine> lines;  // the persistent ones first
+        std::optional<screen::PaintedFile> file;
         bool operator==(Look const&) const = default;
     };
     void set_look(Look const& look) {
@@ -68,6 +70,8 @@ class SurfaceWidget : public QWidget {
         if (m_look.ground.isValid()) painter.fillRect(rect(), m_look.ground);
         QSize const size = m_look.stretched ? this->size() : picture_size();
         m_pictures.draw(painter, m_look.picture, QRectF{QPointF{0, 0}, QSizeF{size}});
+        if (m_look.file) m_pictures.draw_file(painter, *m_look.file);
+        draw_lines(painter);
         if (m_look.border) {
             painter.setPen(QColor{0x64, 0x64, 0x64});
             painter.drawRect(rect().adjusted(0, 0, -1, -1));
@@ -75,6 +79,18 @@ class SurfaceWidget : public QWidget {
     }
 
   private:
+    void draw_lines(QPainter& painter) const {
+        if (m_look.lines.empty()) return;
+        painter.setRenderHint(QPainter::Antialiasing);
+        for (auto const& line : m_look.lines) {
+            painter.setPen(QPen{to_qt(line.colour), static_cast<double>(line.width),
+                                Qt::SolidLine, Qt::RoundCap});
+            painter.drawLine(QPointF{line.x1, line.y1} / twips_per_pixel,
+                             QPointF{line.x2, line.y2} / twips_per_pixel);
+        }
+        painter.setRenderHint(QPainter::Antialiasing, false);
+    }
+
     // At its nominal size, but never beyond the box by the pixel that rounding makes.
     QSize picture_size() const {
         QSize const natural = m_pictures.natural_size(m_look.picture);
@@ -94,6 +110,7 @@ class SurfaceView : public PlacedView<C, SurfaceWidget> {
         : PlacedView<C, SurfaceWidget>{session, control,
                                        new SurfaceWidget{session.pictures(), &parent}} {
         tell_mouse(session, control, this->shown());
+        if (control.on_file_drop) tell_file_drops(session, control, this->shown());
     }
 
   protected:
@@ -101,19 +118,35 @@ class SurfaceView : public PlacedView<C, SurfaceWidget> {
 
   private:
     static SurfaceWidget::Look look_of(screen::Image const& image) {
-        return {
-            .picture = image.Picture.get().name(), .ground = {}, .stretched = image.Stretched};
+        return {.picture = image.Picture.get().name(),
+                .ground = {},
+                .stretched = image.Stretched,
+                .lines = {},
+                .file = {}};
     }
     static SurfaceWidget::Look look_of(screen::PictureBox const& box) {
+        auto lines = box.lines(screen::Layer::persistent);
+        auto const& rubber = box.lines(screen::Layer::rubber);
+        lines.insert(lines.end(), rubber.begin(), rubber.end());
         return {.picture = box.Picture.get().name(),
                 .ground = to_qt(box.BackColor.get()),
-                .border = box.Border};
+                .border = box.Border,
+                .lines = std::move(lines),
+                .file = box.painted()};
     }
     static SurfaceWidget::Look look_of(screen::Frame const& frame) {
-        return {.picture = {}, .ground = to_qt(frame.BackColor.get()), .border = true};
+        return {.picture = {},
+                .ground = to_qt(frame.BackColor.get()),
+                .border = true,
+                .lines = {},
+                .file = {}};
     }
     static SurfaceWidget::Look look_of(screen::Shape const& shape) {
-        return {.picture = {}, .ground = to_qt(shape.BackColor.get()), .border = shape.Border};
+        return {.picture = {},
+                .ground = shape.Filled ? to_qt(shape.BackColor.get()) : QColor{},
+                .border = shape.Border,
+                .lines = {},
+                .file = {}};
     }
 };
 
@@ -250,38 +283,30 @@ class ScrollBarView : public PlacedView<screen::ScrollBar, QScrollBar> {
     }
 };
 
-class ListView : public PlacedView<screen::List, QListView> {
+class OptionView : public PlacedView<screen::OptionButton, QRadioButton> {
   public:
-    ListView(Session& session, screen::List& list, QWidget& parent)
-        : PlacedView{session, list, new QListView{&parent}} {
-        shown().setModel(&m_model);
-        shown().setEditTriggers(QAbstractItemView::NoEditTriggers);
-        shown().setUniformItemSizes(true);
-        tell_focus(session, list, shown());
-        QObject::connect(
-            &shown(), &QListView::clicked, &shown(), [this](QModelIndex const& at) {
-                this->session().act(
-                    [&](screen::User& user) { user.choose(this->control(), at.row()); });
-            });
-        QObject::connect(&shown(), &QListView::doubleClicked, &shown(), [this] {
-            this->session().act(
-                [this](screen::User& user) { user.double_click(this->control()); });
+    OptionView(Session& session, screen::OptionButton& option, QWidget& parent)
+        : PlacedView{session, option, new QRadioButton{&parent}} {
+        // The model keeps to one choice in a group.
+        shown().setAutoExclusive(false);
+        shown().setBackgroundRole(QPalette::Window);
+        shown().setForegroundRole(QPalette::WindowText);
+        shown().setAutoFillBackground(true);
+        tell_focus(session, option, shown());
+        QObject::connect(&shown(), &QRadioButton::clicked, &shown(), [this] {
+            this->session().act([this](screen::User& user) { user.click(this->control()); });
+            show_content();  // the toolkit may have taken the mark off by itself
         });
     }
 
   protected:
     void show_content() override {
         shown().setFont(font_of(control()));
-        set_colour(shown(), QPalette::Base, to_qt(control().BackColor.get()));
-        set_colour(shown(), QPalette::Text, to_qt(control().ForeColor.get()));
-        QStringList entries;
-        for (auto const& entry : control().Entries.get()) entries.append(to_qt(entry));
-        if (m_model.stringList() != entries) m_model.setStringList(entries);
-        shown().setCurrentIndex(m_model.index(control().ListIndex));
+        shown().setText(to_qt(control().Caption.get()));
+        set_colour(shown(), QPalette::Window, to_qt(control().BackColor.get()));
+        set_colour(shown(), QPalette::WindowText, to_qt(control().ForeColor.get()));
+        shown().setChecked(control().Value);
     }
-
-  private:
-    QStringListModel m_model;
 };
 
 }  // namespace
@@ -311,6 +336,8 @@ std::unique_ptr<ControlView> make_view(Session& session, screen::PlacedControl& 
             return make.operator()<SurfaceView<screen::PictureBox>, screen::PictureBox>();
         case screen::Kind::frame:
             return make.operator()<SurfaceView<screen::Frame>, screen::Frame>();
+        case screen::Kind::option_button:
+            return make.operator()<OptionView, screen::OptionButton>();
         case screen::Kind::shape:
             return make.operator()<SurfaceView<screen::Shape>, screen::Shape>();
         case screen::Kind::scroll_bar:

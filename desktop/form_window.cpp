@@ -15,6 +15,11 @@ namespace navarun::desktop {
 FormWindow::FormWindow(Session& session, screen::Form& form)
     : m_session{session}, m_form{form}, m_canvas{new QWidget} {
     setObjectName(to_qt(form.name()));
+    if (!is_main()) {
+        // A small window beside the main one, above it and all others.
+        setWindowFlags(Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                       Qt::WindowCloseButtonHint | Qt::WindowStaysOnTopHint);
+    }
     setContextMenuPolicy(Qt::NoContextMenu);
     m_canvas->setAutoFillBackground(true);
     m_canvas->setObjectName(QStringLiteral("canvas"));
@@ -111,9 +116,17 @@ void FormWindow::show_form() {
     setMaximumSize(whole);
     if (whole.width() <= room.width() && whole.height() <= room.height()) setMinimumSize(whole);
     resize(whole.boundedTo(room.size()));
-    move(room.center() - rect().center());
+    if (is_main()) {
+        move(room.center() - rect().center());
+    } else {
+        auto const& main = *m_session.window(m_session.program().form1);
+        move(main.m_canvas->mapToGlobal(
+            QPoint{to_pixels(m_form.Opening.left), to_pixels(m_form.Opening.top)}));
+    }
     show();
 }
+
+bool FormWindow::is_main() const { return &m_form == &m_session.program().form1; }
 
 void FormWindow::show_control(screen::Control const& control) {
     if (&control == &m_form) {
@@ -134,6 +147,14 @@ void FormWindow::show_focus(screen::Control const& control) {
 QWidget* FormWindow::widget(screen::Control const& control) const {
     auto const view = m_views.find(&control);
     return view == m_views.end() ? nullptr : view->second->widget();
+}
+
+screen::Control* FormWindow::control_of(QWidget const& widget) const {
+    for (auto* control : m_form.controls()) {
+        auto const view = m_views.find(control);
+        if (view != m_views.end() && view->second->widget() == &widget) return control;
+    }
+    return nullptr;
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

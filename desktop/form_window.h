@@ -23,6 +23,8 @@ class FormWindow : public QMainWindow {
     void show_control(screen::Control const& control);
     /// Gives the keyboard to the widget of the control that has the focus.
     void show_focus(screen::Control const& control);
+    /// The control that `widget` shows; null where it shows none.
+    screen::Control* control_of(QWidget const& widget) const;
     /// The widget of a control; null for a menu entry.
     QWidget* widget(screen::Control const& control) const;
 
@@ -34,6 +36,7 @@ class FormWindow : public QMainWindow {
     void make_menus();
     void chain_tab_order();
     void show_form();
+    bool is_main() const;
 
     Session& m_session;
     screen::Form& m_form;

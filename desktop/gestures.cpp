@@ -1,8 +1,11 @@
 // Event filters that turn the toolkit's events into those of the model.
 #include "desktop/gestures.h"
 
+#include <QDropEvent>
 #include <QFocusEvent>
+#include <QMimeData>
 #include <QMouseEvent>
+#include <QUrl>
 
 #include "desktop/session.h"
 #include "desktop/to_qt.h"
@@ -74,6 +77,55 @@ class MouseFilter : public QObject {
     bool m_pressed = false;
 };
 
+class PointerFilter : public QObject {
+  public:
+    PointerFilter(Session& session, screen::PlacedControl& control, QWidget& widget)
+        : QObject{&widget}, m_session{session}, m_control{control} {
+        widget.setMouseTracking(true);
+        widget.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::MouseMove || !m_control.on_mouse_move) return false;
+        auto const position = static_cast<QMouseEvent*>(event)->position();
+        screen::Mouse const where{.x = position.x() * twips_per_pixel,
+                                  .y = position.y() * twips_per_pixel};
+        m_session.act([&](screen::User& user) { user.mouse(m_control, "move", where); });
+        return false;
+    }
+
+  private:
+    Session& m_session;
+    screen::PlacedControl& m_control;
+};
+
+class FileDropFilter : public QObject {
+  public:
+    FileDropFilter(Session& session, screen::PlacedControl& control, QWidget& widget)
+        : QObject{&widget}, m_session{session}, m_control{control} {
+        widget.setAcceptDrops(true);
+        widget.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        bool const enters = event->type() == QEvent::DragEnter;
+        if (!enters && event->type() != QEvent::Drop) return false;
+        // A drag that enters is a drop that has not been let go.
+        auto& drop = *static_cast<QDropEvent*>(event);
+        auto const urls = drop.mimeData()->urls();
+        if (urls.isEmpty() || !urls.front().isLocalFile()) return false;
+        drop.acceptProposedAction();
+        if (enters) return true;
+        std::string const path = urls.front().toLocalFile().toStdString();
+        m_session.act([&](screen::User& user) { user.drop_file(m_control, path); });
+        return true;
+    }
+
+  private:
+    Session& m_session;
+    screen::PlacedControl& m_control;
+};
+
 class FocusFilter : public QObject {
   public:
     FocusFilter(Session& session, screen::PlacedControl& control, QWidget& widget)
@@ -88,7 +140,11 @@ class FocusFilter : public QObject {
             case Qt::TabFocusReason:
             case Qt::BacktabFocusReason:
             case Qt::ShortcutFocusReason:
-                m_session.act([&](screen::User& user) { user.focus(m_control); });
+                take_focus();
+                break;
+            case Qt::ActiveWindowFocusReason:
+                // Back from another window of the program, whose control had the focus.
+                if (focus_is_elsewhere()) take_focus();
                 break;
             default:
                 break;
@@ -97,6 +153,15 @@ class FocusFilter : public QObject {
     }
 
   private:
+    void take_focus() {
+        m_session.act([&](screen::User& user) { user.focus(m_control); });
+    }
+
+    bool focus_is_elsewhere() const {
+        auto const* const focused = m_session.program().screen.focus();
+        return focused != nullptr && &focused->form() != &m_control.form();
+    }
+
     Session& m_session;
     screen::PlacedControl& m_control;
 };
@@ -105,6 +170,14 @@ class FocusFilter : public QObject {
 
 void tell_mouse(Session& session, screen::PlacedControl& control, QWidget& widget) {
     new MouseFilter{session, control, widget};  // owned by the widget
+}
+
+void tell_pointer(Session& session, screen::PlacedControl& control, QWidget& widget) {
+    new PointerFilter{session, control, widget};  // owned by the widget
+}
+
+void tell_file_drops(Session& session, screen::PlacedControl& control, QWidget& widget) {
+    new FileDropFilter{session, control, widget};  // owned by the widget
 }
 
 void tell_focus(Session& session, screen::PlacedControl& control, QWidget& widget) {

@@ -13,6 +13,12 @@ class Session;
 /// click is a double click alone.
 void tell_mouse(Session& session, screen::PlacedControl& control, QWidget& widget);
 
+/// Tells the moves of the pointer over `widget` alone, and takes no event from it.
+void tell_pointer(Session& session, screen::PlacedControl& control, QWidget& widget);
+
+/// Lets files be dropped on `widget` from outside.
+void tell_file_drops(Session& session, screen::PlacedControl& control, QWidget& widget);
+
 /// Tells when the user moves the keyboard to `widget`. Menus, lists that pop up, boxes and a
 /// switch of windows do not count.
 void tell_focus(Session& session, screen::PlacedControl& control, QWidget& widget);

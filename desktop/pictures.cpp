@@ -2,6 +2,7 @@
 #include "desktop/pictures.h"
 
 #include <QFile>
+#include <QImageReader>
 
 namespace navarun::desktop {
 
@@ -40,6 +41,40 @@ void Pictures::draw(QPainter& painter, std::string const& name, QRectF const& pl
     if (size.isEmpty() || renderer(name) == nullptr) return;
     double const ratio = painter.device()->devicePixelRatioF();
     painter.drawPixmap(place.topLeft(), pixmap(name, size, ratio));
+}
+
+namespace {
+
+// Decoded at the size at which it is shown, never larger where the format allows it. What a
+// damaged file yields is shown.
+QImage decoded(QString const& path, QSize size) {
+    QImageReader reader{path};
+    reader.setDecideFormatFromContent(true);
+    if (!size.isEmpty()) reader.setScaledSize(size);
+    return reader.read();
+}
+
+}  // namespace
+
+void Pictures::draw_file(QPainter& painter, screen::PaintedFile const& file) {
+    double const ratio = painter.device()->devicePixelRatioF();
+    if (m_file != file || m_file_ratio != ratio) {
+        QSizeF const size = QSizeF{file.width, file.height} * ratio;
+        m_file_image = decoded(QString::fromStdString(file.path), size.toSize());
+        m_file = file;
+        m_file_ratio = ratio;
+    }
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(QRectF{file.x, file.y, file.width, file.height}, m_file_image);
+}
+
+QSize Pictures::file_size(QString const& path) {
+    QImageReader reader{path};
+    reader.setDecideFormatFromContent(true);
+    QSize const size = reader.size();
+    // A glance at the size of a thumb tells whether the decoder yields anything at all.
+    QSize const thumb = size.scaled(64, 64, Qt::KeepAspectRatio).expandedTo(QSize{1, 1});
+    return size.isEmpty() || decoded(path, thumb).isNull() ? QSize{} : size;
 }
 
 QPixmap Pictures::pixmap(std::string const& name, QSize size, double device_pixel_ratio) {

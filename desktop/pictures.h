@@ -9,7 +9,10 @@
 #include <QSvgRenderer>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
+
+#include "shell/screen/control.h"
 
 namespace navarun::desktop {
 
@@ -19,6 +22,10 @@ class Pictures {
     QSize natural_size(std::string const& name);
     /// Draws the picture into `place`; nothing where none has that name.
     void draw(QPainter& painter, std::string const& name, QRectF const& place);
+    /// Draws a picture file where it is painted; nothing where it cannot be decoded.
+    void draw_file(QPainter& painter, screen::PaintedFile const& file);
+    /// The size of a picture file in pixels; empty where it yields nothing to show.
+    static QSize file_size(QString const& path);
     QPixmap pixmap(std::string const& name, QSize size, double device_pixel_ratio);
     /// The hand over what can be clicked.
     QCursor hand_cursor(std::string const& name, double device_pixel_ratio);
@@ -27,7 +34,10 @@ class Pictures {
     QSvgRenderer* renderer(std::string const& name);
 
     std::map<std::string, std::unique_ptr<QSvgRenderer>> m_renderers;
-    std::map<std::string, QPixmap> m_pixmaps;  // by name and real size
+    std::map<std::string, QPixmap> m_pixmaps;   // by name and real size
+    std::optional<screen::PaintedFile> m_file;  // the one drawn last, and how it came out
+    double m_file_ratio = 0;
+    QImage m_file_image;
 };
 
 }  // namespace navarun::desktop

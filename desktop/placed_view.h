@@ -1,6 +1,8 @@
 // What all widgets of the window share: place, visibility, tool tip, pointer.
 #pragma once
 
+#include <QApplication>
+
 #include "desktop/control_view.h"
 #include "desktop/gestures.h"
 #include "desktop/session.h"
@@ -23,6 +25,7 @@ class PlacedView : public ControlView {
         m_widget->setToolTip(plain_tooltip(m_control.ToolTipText.get()));
         show_pointer();
         show_content();
+        if (!m_control.Visible) let_go_of_keyboard();
         // Last, so that nothing half made is seen.
         m_widget->setVisible(m_control.Visible);
     }
@@ -36,6 +39,16 @@ class PlacedView : public ControlView {
     W& shown() const { return *m_widget; }
 
   private:
+    // The toolkit would hand the keyboard of what is hidden to a neighbour, as if the user had
+    // moved it there.
+    void let_go_of_keyboard() {
+        auto* const keyboard = QApplication::focusWidget();
+        if (keyboard == nullptr) return;
+        if (keyboard == m_widget || m_widget->isAncestorOf(keyboard)) {
+            m_widget->window()->setFocus(Qt::OtherFocusReason);
+        }
+    }
+
     void show_pointer() {
         auto const& icon = m_control.MouseIcon.get().name();
         if (icon == m_pointer) return;

@@ -3,9 +3,11 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <QDesktopServices>
 #include <QEventLoop>
 #include <QMessageBox>
 #include <QTimer>
+#include <QUrl>
 #include <algorithm>
 #include <utility>
 
@@ -52,6 +54,7 @@ void Session::show_changes() {
     for (auto* control : m_program.screen.take_changed()) {
         if (auto* const shown = window(control->form())) shown->show_control(*control);
     }
+    m_drag_mode.follow_model();
     if (auto* const focused = m_program.screen.focus()) {
         if (auto* const shown = window(focused->form())) shown->show_focus(*focused);
     }
@@ -61,6 +64,16 @@ FormWindow* Session::window(screen::Form const& form) const {
     auto const found = std::ranges::find_if(
         m_windows, [&](auto const& shown) { return &shown->form() == &form; });
     return found == m_windows.end() ? nullptr : found->get();
+}
+
+screen::Control* Session::control_at(QPoint where) const {
+    for (QWidget* widget = QApplication::widgetAt(where); widget != nullptr;
+         widget = widget->parentWidget()) {
+        for (auto const& shown : m_windows) {
+            if (auto* const control = shown->control_of(*widget)) return control;
+        }
+    }
+    return nullptr;
 }
 
 void Session::end(int exit_status) {
@@ -108,6 +121,20 @@ Answer Session::box(std::string_view title, std::string_view text, BoxButtons bu
     box.setDefaultButton(QMessageBox::Ok);
     bool const agreed = box.exec() == QMessageBox::Ok;
     return agreed || !question ? Answer::ok : Answer::cancel;
+}
+
+void Session::open(std::string_view target) {
+    QDesktopServices::openUrl(QUrl::fromUserInput(to_qt(target)));
+}
+
+PictureSize Session::picture_size(std::filesystem::path const& file) {
+    QSize const size = Pictures::file_size(QString::fromStdString(file.string()));
+    if (size.isEmpty()) {
+        throw FatalError{
+            "L'image « " + file.filename().string() + " » n'a pas pu être affichée.",
+            "Ce fichier n'est pas une image que le programme sait lire."};
+    }
+    return {size.width(), size.height()};
 }
 
 bool Session::key_is_held(int code) { return m_program.user.key_held() == code; }

@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 
+#include "desktop/drag_mode.h"
 #include "desktop/pictures.h"
 #include "shell/program.h"
 
@@ -30,6 +31,8 @@ class Session : public Platform {
 
     Program& program() { return m_program; }
     Pictures& pictures() { return m_pictures; }
+    /// The control under a point of the screen; null where there is none.
+    screen::Control* control_at(QPoint where) const;
     /// The window of a form; null before it is first shown.
     FormWindow* window(screen::Form const& form) const;
     /// Set once the run is over: 0 by the program's own doing, 1 by a fatal error.
@@ -39,6 +42,8 @@ class Session : public Platform {
     double seconds_since_midnight() override;
     void wait(double seconds, std::string_view shown_message) override;
     Answer box(std::string_view title, std::string_view text, BoxButtons buttons) override;
+    void open(std::string_view target) override;
+    PictureSize picture_size(std::filesystem::path const& file) override;
     bool key_is_held(int code) override;
 
   private:
@@ -47,6 +52,7 @@ class Session : public Platform {
     Pictures m_pictures;
     Program m_program;
     std::vector<std::unique_ptr<FormWindow>> m_windows;
+    DragMode m_drag_mode{*this};
     QEventLoop* m_waiting = nullptr;
     std::optional<int> m_exit_status;
     std::function<void()> m_on_end;

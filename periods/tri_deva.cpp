@@ -1,6 +1,8 @@
 // Placing the marks.
 #include "periods/tri_deva.h"
 
+#include <algorithm>
+
 #include "periods/tri_deva_rule.h"
 #include "shell/program.h"
 
@@ -29,12 +31,16 @@ void triDeva(Program& program) {
                       form.Label_annee(program.consultation.colonne_age).Caption.get(), months);
 
     periods.genre_trideva = found.kind;
-    periods.nombre_tridevas = static_cast<int>(found.cells.size());
     periods.cellules_tridevas = {};
-    std::ranges::copy(found.cells, periods.cellules_tridevas.begin());
+    // The month lords run through nine names in twelve months: none stands more than twice.
+    periods.nombre_tridevas =
+        static_cast<int>(std::min(found.cells.size(), periods.cellules_tridevas.size()));
+    std::ranges::copy_n(found.cells.begin(), periods.nombre_tridevas,
+                        periods.cellules_tridevas.begin());
     if (found.kind.empty()) return;
     int member = found.kind == "C" ? first_mark_of_kind_c : first_mark_of_kind_t;
-    for (int const cell : found.cells) {
+    for (int i = 0; i < periods.nombre_tridevas; ++i) {
+        int const cell = periods.cellules_tridevas[static_cast<std::size_t>(i)];
         auto const& place = mark_places[static_cast<std::size_t>(cell - 1)];
         auto& mark = form.ImageTriDeva(member++);
         mark.Left = place.left;

@@ -332,7 +332,7 @@ Form1::Form1(screen::Screen& screen_)
 
       Label_Lal_Kitab{*this, "Label_Lal_Kitab",
                       boxed(band({4680, 7230, 1920, 420}, "", narrow(12)))},
-      Shape_defile_an{*this, "Shape_defile_an", {.place = {6640, 7200, 1060, 495}}},
+      Shape_defile_an{*this, "Shape_defile_an", {.place = {6640, 7200, 1060, 495}, .opaque = true}},
       Label_anneedefile{*this, "Label_anneedefile",
                         {.place = {6690, 7170, 960, 255},
                          .font = narrow(12),
@@ -376,7 +376,7 @@ Form1::Form1(screen::Screen& screen_)
                           .back = Colour{0xFFFFC0},
                           .visible = false}},
       Shape_message{*this, "Shape_message",
-                    {.place = {120, 120, 3855, 1215}, .back = Colour{0xFFFF80}},
+                    {.place = {120, 120, 3855, 1215}, .back = Colour{0xFFFF80}, .opaque = true},
                     &frame_messageSauve},
       Label_message{*this, "Label_message",
                     {.place = {240, 240, 3510, 915},

@@ -53,6 +53,9 @@ inline screen::Picture const unsaved{"Diskette", 1};
 inline screen::Picture const true_cycle{"CycleBouton", 0};
 inline screen::Picture const false_cycle{"CycleBouton", 1};
 inline screen::Picture const begin_anew{"reset_efface", 0};
+inline screen::Picture const erase{"reset_efface", 1};
+inline screen::Picture const erase_portrait{"Image_efface_Photo"};
+inline screen::Picture const erase_address{"Image_Web_Efface"};
 }  // namespace picture
 
 }  // namespace navarun

@@ -49,6 +49,9 @@ NamedValue owned(screen::ValueView const& view) {
         NamedValue operator()(screen::Colour value) const { return value; }
         NamedValue operator()(screen::Picture const* value) const { return value->name(); }
         NamedValue operator()(std::vector<std::string> const* value) const { return *value; }
+        NamedValue operator()(std::vector<screen::DrawnLine> const* value) const {
+            return *value;
+        }
     };
     return std::visit(Owner{}, view);
 }
@@ -64,6 +67,11 @@ NamedValue as_value(std::string const& text) { return text; }
 NamedValue as_value(bool value) { return value; }
 NamedValue as_value(int value) { return value; }
 NamedValue as_value(std::uint8_t value) { return int{value}; }
+NamedValue as_value(double value) { return value; }
+NamedValue as_value(PortraitName const& name) {
+    auto const* const gone = std::get_if<bool>(&name);
+    return gone != nullptr ? NamedValue{*gone} : std::get<std::string>(name);
+}
 NamedValue as_value(screen::Colour value) { return value; }
 NamedValue as_value(std::optional<Date> const& date) { return date ? write_date(*date) : ""; }
 
@@ -183,6 +191,40 @@ StateRow const state_rows[] = {
     {"couleur_kundali", [](Source const& s) { return s.program.settings.couleur_kundali; }},
     {"decalage_nom_seigneur",
      [](Source const& s) { return s.program.settings.decalage_nom_seigneur; }},
+    {"fichier_photo", [](Source const& s) { return s.person.fichier_photo; }},
+    {"fichier_selectionne",
+     [](Source const& s) { return s.program.record_values.fichier_selectionne; }},
+    {"chemin_fichier", [](Source const& s) { return s.program.record_values.chemin_fichier; }},
+    {"note_consultant",
+     [](Source const& s) { return s.program.record_values.note_consultant; }},
+    {"prenom_lu", [](Source const& s) { return s.program.record_values.prenom_lu; }},
+    {"nom_lu", [](Source const& s) { return s.program.record_values.nom_lu; }},
+    {"deplace_x", [](Source const& s) { return s.program.browser.deplace_x; }},
+    {"deplace_y", [](Source const& s) { return s.program.browser.deplace_y; }},
+    {"texte_initiales", [](Source const& s) { return s.program.name_reading.texte_initiales; }},
+    {"texte_lettre", [](Source const& s) { return s.program.name_reading.texte_lettre; }},
+    {"dossier_ressources",
+     [](Source const& s) { return s.program.folders.dossier_ressources; }},
+    {"dossier_actif", [](Source const& s) { return s.program.folders.dossier_actif; }},
+    {"dossier_autre", [](Source const& s) { return s.program.folders.dossier_autre; }},
+    {"dossier_image", [](Source const& s) { return s.program.folders.dossier_image; }},
+    {"dossier_capture", [](Source const& s) { return s.program.folders.dossier_capture; }},
+    {"chemin_config", [](Source const& s) { return s.program.folders.chemin_config; }},
+    {"chemin_internet", [](Source const& s) { return s.program.folders.chemin_internet; }},
+    {"couleur_fond_fenetre",
+     [](Source const& s) { return s.program.scheme_colours.couleur_fond_fenetre; }},
+    {"couleur_liste", [](Source const& s) { return s.program.scheme_colours.couleur_liste; }},
+    {"couleur_titre_fenetre",
+     [](Source const& s) { return s.program.scheme_colours.couleur_titre_fenetre; }},
+    {"depart_x", [](Source const& s) { return s.program.arrow.depart_x; }},
+    {"depart_y", [](Source const& s) { return s.program.arrow.depart_y; }},
+    {"delta_x", [](Source const& s) { return s.program.arrow.delta_x; }},
+    {"delta_y", [](Source const& s) { return s.program.arrow.delta_y; }},
+    {"fleche_fixee", [](Source const& s) { return s.program.arrow.fleche_fixee; }},
+    {"fleche_dessinee", [](Source const& s) { return s.program.arrow.fleche_dessinee; }},
+    {"couleur_fleche", [](Source const& s) { return s.program.arrow.couleur_fleche; }},
+    {"epaisseur_fleche", [](Source const& s) { return s.program.arrow.epaisseur_fleche; }},
+    {"style_fleche", [](Source const& s) { return s.program.arrow.style_fleche; }},
     {"titre_dialogue", [](Source const& s) { return s.program.dialogue.titre_dialogue; }},
     {"texte_dialogue", [](Source const& s) { return s.program.dialogue.texte_dialogue; }},
     {"reponse_dialogue", [](Source const& s) { return s.program.dialogue.reponse_dialogue; }},

@@ -17,8 +17,8 @@ namespace navarun {
 screen::Control* find_control(Program& program, std::string_view name);
 
 /// What a property or a state value holds.
-using NamedValue =
-    std::variant<std::string, bool, int, double, screen::Colour, std::vector<std::string>>;
+using NamedValue = std::variant<std::string, bool, int, double, screen::Colour,
+                                std::vector<std::string>, std::vector<screen::DrawnLine>>;
 
 /// The value of "Label_Dasha(3).Caption" or of "dates_age(7)". Tables that the practice counts
 /// from 1 are counted from 1. Empty where nothing has that name.

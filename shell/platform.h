@@ -3,11 +3,13 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 
 #include "core/calendar.h"
+#include "core/fatal_error.h"
 
 namespace navarun {
 
@@ -15,6 +17,11 @@ namespace navarun {
 enum class Answer : std::uint8_t { ok = 1, cancel = 2 };
 
 enum class BoxButtons : std::uint8_t { ok, ok_cancel };
+
+struct PictureSize {
+    int width = 0;
+    int height = 0;
+};
 
 class Platform {
   public:
@@ -34,6 +41,14 @@ class Platform {
     /// Shows a box until the user answers it. A box that has only OK answers ok.
     virtual Answer box(std::string_view title, std::string_view text, BoxButtons buttons) = 0;
 
+    /// Hands a document, program or web address to the desktop's opener; what comes of it is
+    /// not looked at.
+    virtual void open(std::string_view target) = 0;
+
+    /// The size of a picture file in pixels, once it is known that the file can be shown.
+    /// Throws FatalError where it cannot.
+    virtual PictureSize picture_size(std::filesystem::path const& file) = 0;
+
     /// Whether the user holds the key of that code down at this moment.
     virtual bool key_is_held(int code) = 0;
 };
@@ -44,17 +59,11 @@ class ProgramEnded : public std::exception {
     char const* what() const noexcept override { return "le programme est terminé"; }
 };
 
-/// A failure that ends the run with a report.
-class FatalError : public std::runtime_error {
-  public:
-    /// @param attempted  what was tried, in French, as the practitioner reads it
-    /// @param reason     why it failed
-    FatalError(std::string const& attempted, std::string const& reason)
-        : std::runtime_error{attempted + "\r\n" + reason} {}
-};
-
 namespace key {
 inline constexpr int enter = 13;
+inline constexpr int control = 17;
+inline constexpr int escape = 27;
+inline constexpr int erase = 46;
 }  // namespace key
 
 }  // namespace navarun

@@ -1,14 +1,25 @@
 // Wiring, start and the one place where a fatal error is told.
 #include "shell/program.h"
 
+#include "chart/arrow_dialog.h"
+#include "chart/kundali.h"
+#include "chart/palace_colours.h"
 #include "core/birth_date_entry.h"
 #include "core/generate.h"
 #include "core/julian_mode.h"
+#include "core/reset.h"
 #include "core/start_up.h"
+#include "files/address_book.h"
+#include "files/browser.h"
+#include "files/portrait.h"
+#include "files/records.h"
+#include "files/rescue.h"
+#include "files/settings.h"
 #include "periods/age_scroll.h"
 #include "periods/current_period.h"
 #include "periods/partial_cycle.h"
 #include "periods/year_month_lords.h"
+#include "shell/image_store.h"
 #include "zodiac/solar_position.h"
 
 namespace navarun {
@@ -24,13 +35,23 @@ Program::Program(Platform& platform_, std::filesystem::path application_folder_)
     wire_year_month_lords(*this);
     wire_age_scroll(*this);
     wire_partial_cycle(*this);
+    wire_reset(*this);
+    wire_settings(*this);
+    wire_records(*this);
+    wire_browser(*this);
+    wire_portrait(*this);
+    wire_address_book(*this);
+    wire_kundali(*this);
+    wire_palace_colours(*this);
+    wire_arrow_dialog(*this);
 }
 
 void Program::start() {
-    event([this](screen::User& acting) {
-        form1.Visible = true;
+    event([this](screen::User&) {
         Form_Load(*this);
-        acting.focus(form1.Text_prenom);
+        form1.Visible = true;
+        screen.move_focus(form1.Text_prenom);
+        m_started = true;
     });
 }
 
@@ -45,7 +66,11 @@ std::string_view Program::name_of_lord(int lord) const {
 
 void Program::report(FatalError const& error) {
     if (std::exchange(m_reported, true)) return;
-    platform.box("N.A.V.A.R.U.N", error.what(), BoxButtons::ok);
+    std::string text = error.what();
+    bool const unsaved = form1.Command_Disk_Vert.Picture.get() == picture::unsaved;
+    if (m_started && unsaved) text.append("\r\n\r\n").append(rescue_consultation(*this));
+    text.append("\r\n\r\nN.A.V.A.R.U.N s'arrête.");
+    platform.box("N.A.V.A.R.U.N", text, BoxButtons::ok);
 }
 
 }  // namespace navarun

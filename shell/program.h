@@ -9,9 +9,15 @@
 #include <string_view>
 #include <utility>
 
+#include "chart/arrow_values.h"
 #include "core/consultation.h"
 #include "core/lords.h"
+#include "files/browser_values.h"
+#include "files/durable_file.h"
+#include "files/folders.h"
+#include "files/records.h"
 #include "periods/period_values.h"
+#include "shell/fleche.h"
 #include "shell/form1.h"
 #include "shell/platform.h"
 #include "shell/screen/screen.h"
@@ -25,11 +31,24 @@ struct Settings {
     std::uint8_t decalage_nom_seigneur = 0;  // 0 full names of the lords, 9 short ones
 };
 
+/// The colours that the scheme gives to the small windows.
+struct SchemeColours {
+    screen::Colour couleur_fond_fenetre;
+    screen::Colour couleur_liste;
+    screen::Colour couleur_titre_fenetre;
+};
+
 /// The values through which a question box is called.
 struct Dialogue {
     std::string titre_dialogue;
     std::string texte_dialogue;
     std::uint8_t reponse_dialogue = 0;  // 1 OK, 2 Cancel
+};
+
+/// The reading of the initials, and the text looked up last.
+struct NameReading {
+    std::string texte_initiales;
+    std::string texte_lettre;
 };
 
 /// What the date fields remember between two keys.
@@ -66,18 +85,32 @@ class Program {
     /// @param lord  1..9. With full names anything below ends the run with a fatal error.
     std::string_view name_of_lord(int lord) const;
 
+    /// Where a path from the application folder on lies.
+    std::filesystem::path path_of(std::string_view path) const {
+        return application_folder / std::filesystem::path{path};
+    }
+
     Platform& platform;
     std::filesystem::path const application_folder;
 
     screen::Screen screen;
     screen::User user{screen};
     navarun::Form1 form1{screen};
+    navarun::Fleche fleche{screen};
 
     Consultation consultation;
     PeriodValues periods;
     Settings settings;
     Dialogue dialogue;
     DateEntry date_entry;
+    Folders folders;
+    RecordValues record_values;
+    BrowserValues browser;
+    NameReading name_reading;
+    SchemeColours scheme_colours;
+    ArrowValues arrow;
+    bool fleche_loaded = false;  // the arrow window has its settings
+    FolderLock instance;
     std::array<std::string, 10> url_defaut;
 
   private:
@@ -85,6 +118,7 @@ class Program {
     void report(FatalError const& error);
 
     bool m_reported = false;
+    bool m_started = false;
 };
 
 }  // namespace navarun

@@ -44,6 +44,7 @@ bool Control::takes_focus() const {
         case Kind::combo:
         case Kind::list:
         case Kind::button:
+        case Kind::option_button:
         case Kind::scroll_bar:
             return true;
         default:
@@ -203,13 +204,66 @@ void Combo::visit(PropertyVisitor& visitor) const {
 }
 
 List::List(Form& form, std::string_view name, Design const& design, Control* container)
-    : TextControl{form, container, Kind::list, name, {}, design},
-      Entries{*this, {}},
-      ListIndex{*this, -1} {}
+    : TextControl{form, container, Kind::list, name, {}, design}, ListIndex{*this} {}
+
+std::vector<std::string> const& List::entries() const {
+    if (m_stale) {
+        m_stale = false;
+        m_entries = m_source();
+    }
+    return m_entries;
+}
+
+std::string List::selected() const {
+    return ListIndex.get() < 0 ? std::string{}
+                               : entries()[static_cast<std::size_t>(ListIndex.get())];
+}
+
+void List::entries_changed() {
+    ++m_version;
+    detail::mark_changed(*this);
+}
+
+void List::add(std::string entry) {
+    m_entries.push_back(std::move(entry));
+    entries_changed();
+}
+
+void List::remove(int place) {
+    m_entries.erase(m_entries.begin() + place);
+    ListIndex = -1;
+    entries_changed();
+}
+
+void List::clear() {
+    m_entries.clear();
+    ListIndex = -1;
+    entries_changed();
+}
+
+void List::set_source(std::function<std::vector<std::string>()> source) {
+    m_source = std::move(source);
+    refresh();
+}
+
+void List::refresh() {
+    m_stale = static_cast<bool>(m_source);
+    ListIndex = -1;
+    entries_changed();
+}
+
+ListPlace& ListPlace::operator=(int value) {
+    // None needs no look at the entries, which may be many and not yet read.
+    int const place = value < 0 || value >= m_owner->count() ? -1 : value;
+    if (m_value != place) detail::mark_changed(*m_owner);
+    m_value = place;
+    if (place >= 0 && m_owner->on_click) m_owner->on_click();
+    return *this;
+}
 
 void List::visit(PropertyVisitor& visitor) const {
     TextControl::visit(visitor);
-    visitor.property("List", &Entries.get());
+    visitor.property("List", &entries());
     visitor.property("ListIndex", ListIndex.get());
 }
 
@@ -242,10 +296,40 @@ PictureBox::PictureBox(Form& form, std::string_view name, Design const& design,
       Picture{*this, design.picture},
       Border{*this, design.border} {}
 
+SurfacePicture& SurfacePicture::operator=(screen::Picture picture) {
+    m_picture = std::move(picture);
+    m_owner->m_persistent.clear();
+    m_owner->m_rubber.clear();
+    m_owner->m_painted.reset();
+    detail::mark_changed(*m_owner);
+    return *this;
+}
+
+void PictureBox::paint(PaintedFile file, std::string_view file_name) {
+    Picture = screen::Picture{"file:" + std::string{file_name}};
+    m_painted = std::move(file);
+}
+
+std::vector<DrawnLine> const& PictureBox::lines(Layer layer) const {
+    return layer == Layer::persistent ? m_persistent : m_rubber;
+}
+
+void PictureBox::draw(Layer layer, DrawnLine const& line) {
+    (layer == Layer::persistent ? m_persistent : m_rubber).push_back(line);
+    detail::mark_changed(*this);
+}
+
+void PictureBox::clear_rubber() {
+    if (m_rubber.empty()) return;
+    m_rubber.clear();
+    detail::mark_changed(*this);
+}
+
 void PictureBox::visit(PropertyVisitor& visitor) const {
     PlacedControl::visit(visitor);
     visitor.property("Picture", &Picture.get());
     visitor.property("Border", Border.get());
+    visitor.property("Drawing", &m_persistent);
 }
 
 Frame::Frame(Form& form, std::string_view name, Design const& design)
@@ -259,9 +343,36 @@ void Frame::visit(PropertyVisitor& visitor) const {
     visitor.property("Border", Border.get());
 }
 
+OptionButton::OptionButton(Form& form, std::string_view name, Design const& design,
+                           Control* container, std::optional<int> index)
+    : TextControl{form, container, Kind::option_button, name, index, design},
+      Caption{*this, std::string{design.text}},
+      Value{*this, false} {}
+
+OptionValue& OptionValue::operator=(bool value) {
+    if (m_value == value) return *this;
+    m_value = value;
+    detail::mark_changed(*m_owner);
+    if (!value) return *this;
+    for (auto* control : m_owner->form().controls()) {
+        bool const same_group = control->kind() == Kind::option_button && control != m_owner &&
+                                control->container() == m_owner->container();
+        if (same_group) static_cast<OptionButton*>(control)->Value = false;
+    }
+    if (m_owner->on_click) m_owner->on_click();
+    return *this;
+}
+
+void OptionButton::visit(PropertyVisitor& visitor) const {
+    TextControl::visit(visitor);
+    visitor.property("Caption", std::string_view{Caption.get()});
+    visitor.property("Value", Value.get());
+}
+
 Shape::Shape(Form& form, std::string_view name, Design const& design, Control* container)
     : PlacedControl{form, container, Kind::shape, name, {}, design},
-      Border{*this, design.border} {}
+      Border{*this, design.border},
+      Filled{design.opaque} {}
 
 void Shape::visit(PropertyVisitor& visitor) const {
     PlacedControl::visit(visitor);
@@ -309,14 +420,16 @@ void MenuEntry::visit(PropertyVisitor& visitor) const {
 MenuSeparator::MenuSeparator(Form& form, std::string_view name, Control& menu)
     : Control{form, &menu, Kind::menu_separator, name, {}, {}} {}
 
-Form::Form(Screen& screen, std::string_view name, Design const& design)
+Form::Form(Screen& screen_, std::string_view name, Design const& design)
     : Control{*this, nullptr, Kind::form, name, {}, design},
       Caption{*this, std::string{design.text}},
       BackColor{*this, design.back},
       Width{*this, design.place.width},
       Height{*this, design.place.height},
-      m_screen{&screen} {
-    screen.m_forms.push_back(this);
+      Stacking{*this, screen::Stacking::normal},
+      Opening{design.place},
+      m_screen{&screen_} {
+    screen_.m_forms.push_back(this);
 }
 
 Control* Form::find(std::string_view name, std::optional<int> index) const {

@@ -34,6 +34,7 @@ enum class Kind : std::uint8_t {
     image,
     picture_box,
     frame,
+    option_button,
     shape,
     scroll_bar,
     menu_entry,
@@ -87,9 +88,20 @@ struct Mouse {
     double y = 0;
 };
 
+/// A line drawn on a picture, in the picture's own units.
+struct DrawnLine {
+    double x1 = 0;
+    double y1 = 0;
+    double x2 = 0;
+    double y2 = 0;
+    int width = 1;  // pixels
+    Colour colour;
+    bool operator==(DrawnLine const&) const = default;
+};
+
 /// How a property shows itself to the pilot and the tests.
 using ValueView = std::variant<std::string_view, bool, int, double, Colour, Picture const*,
-                               std::vector<std::string> const*>;
+                               std::vector<std::string> const*, std::vector<DrawnLine> const*>;
 
 class PropertyVisitor {
   public:
@@ -144,6 +156,11 @@ class Control {
     std::function<void(Mouse const&)> on_mouse_down;
     std::function<void(Mouse const&)> on_mouse_move;
     std::function<void(Mouse const&)> on_mouse_up;
+    /// A record is dragged over the control, or dropped on it.
+    std::function<void()> on_drag_over;
+    std::function<void()> on_drag_drop;
+    /// A file is dropped from outside.
+    std::function<void(std::string const& path)> on_file_drop;
 
   private:
     friend class Screen;
@@ -291,13 +308,57 @@ class Combo : public EntryControl {
     std::vector<std::string> m_entries;
 };
 
+/// The selected place of a list, from 0; -1 for none. A routine that selects an entry fires the
+/// list's Click; taking the selection away fires nothing.
+class List;
+class ListPlace {
+  public:
+    explicit ListPlace(List& owner) : m_owner{&owner} {}
+    ListPlace(ListPlace const&) = delete;
+    ListPlace& operator=(ListPlace const&) = delete;
+
+    int get() const { return m_value; }
+    operator int() const { return m_value; }
+    /// A place outside the list is none.
+    ListPlace& operator=(int value);
+
+  private:
+    friend class List;
+    List* m_owner;
+    int m_value = -1;
+};
+
+/// Entries of one line each. They are held as they are added, or read from a source when
+/// somebody looks: a list that is hidden and has become stale costs nothing.
 class List : public TextControl {
   public:
     List(Form& form, std::string_view name, Design const& design, Control* container = nullptr);
     void visit(PropertyVisitor& visitor) const override;
 
-    Property<std::vector<std::string>> Entries;
-    Property<int> ListIndex;
+    std::vector<std::string> const& entries() const;
+    int count() const { return static_cast<int>(entries().size()); }
+    /// Another number after each change of the entries.
+    unsigned version() const { return m_version; }
+    /// The selected entry; empty where there is none.
+    std::string selected() const;
+    void add(std::string entry);
+    /// REQUIRES a place in the list. The selection goes.
+    void remove(int place);
+    void clear();
+    /// From now on the entries come from `source`, asked anew after each refresh.
+    void set_source(std::function<std::vector<std::string>()> source);
+    /// The entries have changed at their source. The selection goes.
+    void refresh();
+
+    ListPlace ListIndex;
+
+  private:
+    std::function<std::vector<std::string>()> m_source;
+    void entries_changed();
+
+    unsigned m_version = 1;
+    mutable bool m_stale = false;
+    mutable std::vector<std::string> m_entries;
 };
 
 class Button : public TextControl {
@@ -321,15 +382,65 @@ class Image : public PlacedControl {
     bool const Stretched;
 };
 
-/// A picture on which other controls lie.
+/// The rubber lines vanish with the next clear; the persistent ones stay until the picture is
+/// loaded again.
+enum class Layer : std::uint8_t { persistent, rubber };
+
+/// The picture of a box on which lines are drawn. Loading one wipes them, also where it is the
+/// same picture.
+class PictureBox;
+class SurfacePicture {
+  public:
+    SurfacePicture(PictureBox& owner, Picture picture)
+        : m_owner{&owner}, m_picture{std::move(picture)} {}
+    SurfacePicture(SurfacePicture const&) = delete;
+    SurfacePicture& operator=(SurfacePicture const&) = delete;
+
+    screen::Picture const& get() const { return m_picture; }
+    SurfacePicture& operator=(screen::Picture picture);
+
+  private:
+    PictureBox* m_owner;
+    screen::Picture m_picture;
+};
+
+/// A picture file painted into a box, in pixels of the box.
+struct PaintedFile {
+    std::string path;
+    double x = 0;
+    double y = 0;
+    double width = 0;
+    double height = 0;
+    bool operator==(PaintedFile const&) const = default;
+};
+
+/// A picture on which other controls lie, and on which lines can be drawn.
 class PictureBox : public PlacedControl {
   public:
     PictureBox(Form& form, std::string_view name, Design const& design,
                Control* container = nullptr);
     void visit(PropertyVisitor& visitor) const override;
 
-    Property<screen::Picture> Picture;
+    SurfacePicture Picture;
     Property<bool> Border;
+
+    /// Shows a picture file in place of the picture; its name is the picture's from now on.
+    void paint(PaintedFile file, std::string_view file_name);
+    std::optional<PaintedFile> const& painted() const { return m_painted; }
+
+    std::vector<DrawnLine> const& lines(Layer layer) const;
+    void draw(Layer layer, DrawnLine const& line);
+    void clear_rubber();
+    /// The width of the lines to come, in pixels.
+    int draw_width() const { return m_draw_width; }
+    void set_draw_width(int pixels) { m_draw_width = pixels; }
+
+  private:
+    friend class SurfacePicture;
+    std::vector<DrawnLine> m_persistent;
+    std::vector<DrawnLine> m_rubber;
+    std::optional<PaintedFile> m_painted;
+    int m_draw_width = 1;
 };
 
 class Frame : public TextControl {
@@ -341,7 +452,35 @@ class Frame : public TextControl {
     Property<bool> Border;
 };
 
-/// A filled rectangle behind other controls.
+/// Whether an option button is the chosen one. Choosing it takes the choice from the others of
+/// its container; Click fires where the value differs, whoever sets it.
+class OptionButton;
+class OptionValue {
+  public:
+    OptionValue(OptionButton& owner, bool value) : m_owner{&owner}, m_value{value} {}
+    OptionValue(OptionValue const&) = delete;
+    OptionValue& operator=(OptionValue const&) = delete;
+
+    bool get() const { return m_value; }
+    operator bool() const { return m_value; }
+    OptionValue& operator=(bool value);
+
+  private:
+    OptionButton* m_owner;
+    bool m_value;
+};
+
+class OptionButton : public TextControl {
+  public:
+    OptionButton(Form& form, std::string_view name, Design const& design, Control* container,
+                 std::optional<int> index);
+    void visit(PropertyVisitor& visitor) const override;
+
+    Property<std::string> Caption;
+    OptionValue Value;
+};
+
+/// A rectangle round or behind other controls.
 class Shape : public PlacedControl {
   public:
     Shape(Form& form, std::string_view name, Design const& design,
@@ -349,6 +488,7 @@ class Shape : public PlacedControl {
     void visit(PropertyVisitor& visitor) const override;
 
     Property<bool> Border;
+    bool const Filled;
 };
 
 /// The position of a scroll bar. Whoever writes it, Change fires where the position differs.
@@ -433,10 +573,13 @@ class ControlArray {
     std::vector<std::unique_ptr<T>> m_members;
 };
 
+/// Where a window stands among the windows of the desktop.
+enum class Stacking : std::uint8_t { normal, topmost };
+
 /// A window: its controls in stacking order, the lowest first.
 class Form : public Control {
   public:
-    Form(Screen& screen, std::string_view name, Design const& design);
+    Form(Screen& screen_, std::string_view name, Design const& design);
     void visit(PropertyVisitor& visitor) const override;
 
     Screen& screen() const { return *m_screen; }
@@ -451,6 +594,9 @@ class Form : public Control {
     Property<Colour> BackColor;
     Property<int> Width;
     Property<int> Height;
+    Property<screen::Stacking> Stacking;
+    /// Where a window beside the main one opens, from the main window's upper left corner.
+    Place const Opening;
 
   private:
     friend class Control;

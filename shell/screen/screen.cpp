@@ -27,6 +27,16 @@ void Screen::move_focus(Control& control) {
     detail::mark_changed(control);
 }
 
+void Screen::begin_drag(Control& carrier) {
+    m_dragged = &carrier;
+    detail::mark_changed(carrier);
+}
+
+void Screen::end_drag() {
+    if (m_dragged != nullptr) detail::mark_changed(*m_dragged);
+    m_dragged = nullptr;
+}
+
 std::vector<Control*> Screen::take_changed() {
     auto changed = std::exchange(m_changed, {});
     for (Control* control : changed) control->m_marked = false;

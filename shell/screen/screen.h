@@ -25,6 +25,13 @@ class Screen {
     /// REQUIRES control.takes_focus().
     void move_focus(Control& control);
 
+    /// Begins to drag what `carrier` stands for. It ends with a drop, or with anything else
+    /// that the user does.
+    void begin_drag(Control& carrier);
+    void end_drag();
+    /// What is being dragged; null for nothing.
+    Control* dragged() const { return m_dragged; }
+
     /// The controls written to since the last call, each once, in the order of the first write.
     std::vector<Control*> take_changed();
     bool has_changed() const { return !m_changed.empty(); }
@@ -36,6 +43,7 @@ class Screen {
     std::vector<Form*> m_forms;
     std::vector<Control*> m_changed;
     Control* m_focus = nullptr;
+    Control* m_dragged = nullptr;
 };
 
 }  // namespace navarun::screen

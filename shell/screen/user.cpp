@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/code_page.h"
 #include "core/text.h"
 
 namespace navarun::screen {
@@ -20,6 +21,12 @@ void require_usable(Control const& control) {
     throw Refused{control.full_name() + " ne prend pas cela"};
 }
 
+// Keys that write nothing never enter a text; a line end does in a text of several lines.
+bool is_text(EntryControl const& entry, char32_t character) {
+    bool const line_end = character == U'\r' || character == U'\n';
+    return character >= U' ' || (line_end && entry.kind() == Kind::text_area);
+}
+
 void fire(std::function<void()> const& event) {
     if (event) event();
 }
@@ -27,12 +34,14 @@ void fire(std::function<void()> const& event) {
 }  // namespace
 
 void User::focus(Control& control) {
+    m_screen->end_drag();
     require_usable(control);
     if (!control.takes_focus()) throw Refused{control.full_name() + " ne prend pas le focus"};
     m_screen->move_focus(control);
 }
 
 void User::touch(Control& control) {
+    m_screen->end_drag();
     require_usable(control);
     if (control.takes_focus()) m_screen->move_focus(control);
 }
@@ -45,9 +54,10 @@ void User::type(char32_t character) {
     auto* const entry = dynamic_cast<EntryControl*>(control);
     if (swallowed || entry == nullptr || entry->read_only()) return;
     // A handler of KeyPress may have moved the focus or closed the field.
-    if (m_screen->focus() != control || !entry->has_room()) return;
+    if (m_screen->focus() != control || !entry->has_room() || !is_text(*entry, character))
+        return;
     int const caret = entry->selection().start + 1;
-    entry->edit(entry->with_typed(character), caret);
+    entry->edit(entry->with_typed(nearest_in_code_page(character)), caret);
 }
 
 void User::type(Control& control, std::string_view text) {
@@ -66,14 +76,14 @@ bool User::press(EntryControl& control, char32_t character) {
 void User::edit(EntryControl& control, std::string text, int caret) {
     require_usable(control);
     if (control.read_only()) refuse_kind(control);
-    control.edit(std::move(text), caret);
+    control.edit(fitted_to_code_page(text), caret);
 }
 
 void User::set_text(EntryControl& control, std::string_view text) {
     require_usable(control);
     if (control.read_only()) refuse_kind(control);
     m_screen->move_focus(control);
-    std::string taken{text};
+    std::string taken = fitted_to_code_page(text);
     if (control.digits_only()) {
         std::erase_if(taken, [](char c) { return c < '0' || c > '9'; });
     }
@@ -99,6 +109,12 @@ void User::drag(ScrollBar& control, int value) {
     control.drag(value);
 }
 
+void User::set_option(OptionButton& control, bool chosen) {
+    require_usable(control);
+    m_screen->move_focus(control);
+    control.Value = chosen;
+}
+
 void User::choose(Control& control, int entry) {
     require_usable(control);
     if (auto* const combo = dynamic_cast<Combo*>(&control)) {
@@ -113,12 +129,11 @@ void User::choose(Control& control, int entry) {
         return;
     }
     if (auto* const list = dynamic_cast<List*>(&control)) {
-        if (entry < 0 || entry >= static_cast<int>(list->Entries.get().size())) {
+        if (entry < 0 || entry >= static_cast<int>(list->entries().size())) {
             throw UnknownEntry{std::to_string(entry)};
         }
         m_screen->move_focus(control);
         list->ListIndex = entry;
-        fire(list->on_click);
         return;
     }
     refuse_kind(control);
@@ -127,7 +142,7 @@ void User::choose(Control& control, int entry) {
 void User::choose(Control& control, std::string_view entry) {
     std::vector<std::string> const* entries = nullptr;
     if (auto* const combo = dynamic_cast<Combo*>(&control)) entries = &combo->entries();
-    if (auto* const list = dynamic_cast<List*>(&control)) entries = &list->Entries.get();
+    if (auto* const list = dynamic_cast<List*>(&control)) entries = &list->entries();
     require_usable(control);
     if (entries == nullptr) refuse_kind(control);
     auto const found = std::ranges::find(*entries, entry);
@@ -141,6 +156,10 @@ void User::click(Control& control) {
     if (auto* const combo = dynamic_cast<Combo*>(&control)) {
         combo->select_all();
         return;  // Click of a combo is the choice of an entry.
+    }
+    if (auto* const option = dynamic_cast<OptionButton*>(&control)) {
+        option->Value = true;  // fires Click where it was not chosen
+        return;
     }
     fire(control.on_click);
 }
@@ -166,6 +185,22 @@ void User::key(Control& control, int code) {
     if (m_screen->focus() == &control && control.on_key_press) {
         control.on_key_press(static_cast<char32_t>(code));
     }
+}
+
+void User::drop(Control& control) {
+    if (m_screen->dragged() == nullptr) throw Refused{"rien n'est tiré"};
+    require_usable(control);
+    fire(control.on_drag_over);
+    if (m_screen->dragged() == nullptr)
+        return;  // ended by the control that it was dragged over
+    m_screen->end_drag();
+    fire(control.on_drag_drop);
+}
+
+void User::drop_file(Control& control, std::string const& path) {
+    require_usable(control);
+    if (!control.on_file_drop) refuse_kind(control);
+    control.on_file_drop(path);
 }
 
 void User::mouse(Control& control, std::string_view event, Mouse const& where) {

@@ -57,6 +57,7 @@ class User {
     /// Throws BadValue outside the range of the scroll bar.
     void set_position(ScrollBar& control, int value);
     void drag(ScrollBar& control, int value);
+    void set_option(OptionButton& control, bool chosen);
 
     /// Takes an entry of a combo or list by its place, from 0. Throws UnknownEntry.
     void choose(Control& control, int entry);
@@ -69,6 +70,10 @@ class User {
     /// KeyDown and KeyPress of a key code; the key edits nothing. While it lasts,
     /// key_held() tells the key.
     void key(Control& control, int code);
+    /// Drops what is dragged on `control`: drag over, then drop. Refused without a drag.
+    void drop(Control& control);
+    /// Drops a file from outside on `control`. Refused where it takes none.
+    void drop_file(Control& control, std::string const& path);
     void mouse(Control& control, std::string_view event, Mouse const& where);
     void close(Form& form);
 

@@ -293,7 +293,7 @@ constexpr ReplaceCase replace_cases[] = {
 class ReplaceAll : public testing::TestWithParam<ReplaceCase> {};
 TEST_P(ReplaceAll, Ends) {
     ReplaceCase const& row = GetParam();
-    EXPECT_EQ(text::replace_all(row.text, row.from, row.to), row.result);
+    EXPECT_EQ(text::Replace_Char(row.text, row.from, row.to), row.result);
 }
 INSTANTIATE_TEST_SUITE_P(Texts, ReplaceAll, testing::ValuesIn(replace_cases),
                          [](auto const& row) { return row.param.name; });

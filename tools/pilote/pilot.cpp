@@ -63,8 +63,32 @@ Json to_json(NamedValue const& value) {
         Json operator()(double number) const { return number; }
         Json operator()(screen::Colour colour) const { return screen::to_text(colour); }
         Json operator()(std::vector<std::string> const& list) const { return list; }
+        Json operator()(std::vector<screen::DrawnLine> const& lines) const {
+            Json drawing = Json::array();
+            for (auto const& line : lines) {
+                drawing.push_back({line.x1, line.y1, line.x2, line.y2, line.width,
+                                   screen::to_text(line.colour)});
+            }
+            return drawing;
+        }
     };
     return std::visit(Writer{}, value);
+}
+
+// Requests inside a wait may hold such requests in turn; nobody means more than this.
+constexpr int greatest_depth = 100;
+
+// The object of a line; a discarded value where it is none, as what is nested without measure.
+Json parsed(std::string const& line) {
+    // The parser would take this character for the end of the text.
+    if (line.find('\0') != std::string::npos) return Json::value_t::discarded;
+    bool too_deep = false;
+    auto const watch_depth = [&](int depth, Json::parse_event_t, Json&) {
+        too_deep = too_deep || depth > greatest_depth;
+        return !too_deep;
+    };
+    Json request = Json::parse(line, watch_depth, /*allow_exceptions=*/false);
+    return too_deep ? Json{Json::value_t::discarded} : request;
 }
 
 // "HH:MM:SS" in seconds since midnight; negative for anything else.
@@ -124,11 +148,10 @@ Pilot::Pilot(std::filesystem::path application_folder)
 }
 
 std::string Pilot::answer_line(std::string const& line) {
-    Json const request = Json::parse(line, nullptr, /*allow_exceptions=*/false);
     m_during = Json::array();
     Json result;
     try {
-        result = answer(request);
+        result = answer(parsed(line));
     } catch (ProgramEnded const&) {
         m_exit_status = 0;
         result = {{"ended", true}};
@@ -275,6 +298,12 @@ Json Pilot::set(Json const& request) {
         m_program.event([&](screen::User& user) { user.set_position(*bar, position); });
         return ok;
     }
+    if (auto* const option = dynamic_cast<screen::OptionButton*>(&control)) {
+        if (!value.is_boolean()) throw UsageError{"value : true ou false est attendu"};
+        bool const chosen = value.get<bool>();
+        m_program.event([&](screen::User& user) { user.set_option(*option, chosen); });
+        return ok;
+    }
     auto* const entry = dynamic_cast<screen::EntryControl*>(&control);
     if (entry == nullptr) throw screen::Refused{control.full_name() + " ne s'écrit pas"};
     std::string const text = string_of(request, "value");
@@ -342,8 +371,14 @@ Json Pilot::mouse(Json const& request) {
 }
 
 Json Pilot::drop(Json const& request) {
-    control_of(request);
-    throw screen::Refused{"rien n'est tiré"};
+    auto& control = control_of(request);
+    if (request.contains("file")) {
+        std::string const file = string_of(request, "file");
+        m_program.event([&](screen::User& user) { user.drop_file(control, file); });
+    } else {
+        m_program.event([&](screen::User& user) { user.drop(control); });
+    }
+    return ok;
 }
 
 Json Pilot::close(Json const& request) {

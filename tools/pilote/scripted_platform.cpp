@@ -4,6 +4,9 @@
 #include <cmath>
 #include <utility>
 
+#include "files/durable_file.h"
+#include "tools/pilote/picture_header.h"
+
 namespace navarun::pilot {
 
 namespace {
@@ -52,6 +55,20 @@ Answer ScriptedPlatform::box(std::string_view title, std::string_view text,
                          {"text", text},
                          {"answer", static_cast<int>(answer)}});
     return answer;
+}
+
+void ScriptedPlatform::open(std::string_view target) {
+    m_effects.push_back({{"kind", "open"}, {"target", target}});
+}
+
+PictureSize ScriptedPlatform::picture_size(std::filesystem::path const& file) {
+    std::string const name = file.filename().string();
+    auto const size = size_in_header(read_file(file, name));
+    if (!size) {
+        throw FatalError{"L'image « " + name + " » n'a pas pu être affichée.",
+                         "Ce n'est pas une image GIF, BMP ou JPEG."};
+    }
+    return *size;
 }
 
 bool ScriptedPlatform::key_is_held(int code) {

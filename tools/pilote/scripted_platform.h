@@ -20,6 +20,8 @@ class ScriptedPlatform : public Platform {
     double seconds_since_midnight() override { return m_seconds; }
     void wait(double seconds, std::string_view shown_message) override;
     Answer box(std::string_view title, std::string_view text, BoxButtons buttons) override;
+    void open(std::string_view target) override;
+    PictureSize picture_size(std::filesystem::path const& file) override;
     bool key_is_held(int code) override;
 
     /// @param seconds  since midnight, 0 to below 86400

@@ -1,0 +1,114 @@
+// Showing lists.
+#include "desktop/list_view.h"
+
+#include <QKeyEvent>
+
+namespace navarun::desktop {
+
+namespace {
+
+// The key codes by which the logic knows the keys that lists answer to.
+int code_of(int key) {
+    switch (key) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return key::enter;
+        case Qt::Key_Delete:
+            return key::erase;
+        case Qt::Key_Control:
+            return key::control;
+        default:
+            return 0;
+    }
+}
+
+class ListKeys : public QObject {
+  public:
+    ListKeys(Session& session, screen::List& list, QWidget& widget)
+        : QObject{&widget}, m_session{session}, m_list{list} {
+        widget.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress) return false;
+        auto const& pressed = *static_cast<QKeyEvent*>(event);
+        int const code = code_of(pressed.key());
+        if (code == 0 || pressed.isAutoRepeat()) return false;
+        m_session.act([&](screen::User& user) { user.key(m_list, code); });
+        return true;
+    }
+
+  private:
+    Session& m_session;
+    screen::List& m_list;
+};
+
+}  // namespace
+
+void EntriesModel::follow() {
+    // A hidden list is not read: it will be when it is shown.
+    if (!m_list.is_shown() || m_version == m_list.version()) return;
+    beginResetModel();
+    m_version = m_list.version();
+    m_count = m_list.count();
+    endResetModel();
+}
+
+int EntriesModel::rowCount(QModelIndex const& parent) const {
+    return parent.isValid() ? 0 : m_count;
+}
+
+QVariant EntriesModel::data(QModelIndex const& index, int role) const {
+    if (role != Qt::DisplayRole || index.row() >= m_list.count()) return {};
+    return to_qt(m_list.entries()[static_cast<std::size_t>(index.row())]);
+}
+
+ListView::ListView(Session& session, screen::List& list, QWidget& parent)
+    : PlacedView{session, list, new QListView{&parent}}, m_model{list} {
+    auto& view = shown();
+    view.setModel(&m_model);
+    view.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view.setUniformItemSizes(true);
+    view.setTextElideMode(Qt::ElideRight);
+    view.setMouseTracking(true);
+    new ListKeys{session, list, view};
+    tell_focus(session, list, view);
+    tell_pointer(session, list, *view.viewport());
+    QObject::connect(&view, &QListView::clicked, &view,
+                     [this](QModelIndex const& at) { choose(at.row()); });
+    QObject::connect(view.selectionModel(), &QItemSelectionModel::currentChanged, &view,
+                     [this](QModelIndex const& at) {
+                         if (at.isValid() && at.row() != this->control().ListIndex) {
+                             choose(at.row());
+                         }
+                     });
+    QObject::connect(&view, &QListView::doubleClicked, &view, [this] {
+        this->session().act([this](screen::User& user) { user.double_click(this->control()); });
+    });
+}
+
+void ListView::choose(int row) {
+    session().act([&](screen::User& user) { user.choose(control(), row); });
+}
+
+void ListView::show_content() {
+    auto& view = shown();
+    view.setFont(font_of(control()));
+    set_colour(view, QPalette::Base, to_qt(control().BackColor.get()));
+    set_colour(view, QPalette::Text, to_qt(control().ForeColor.get()));
+    m_model.follow();
+    auto& selection = *view.selectionModel();
+    QSignalBlocker const silent{selection};
+    int const row = control().ListIndex;
+    if (row < 0) {
+        selection.clear();
+        view.viewport()->update();
+    } else if (view.currentIndex().row() != row || !selection.hasSelection()) {
+        auto const index = m_model.index(row);
+        selection.setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+        view.scrollTo(index);
+        view.viewport()->update();
+    }
+}
+
+}  // namespace navarun::desktop

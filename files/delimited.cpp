@@ -1,0 +1,92 @@
+// Writing and reading of fields.
+#include "files/delimited.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/code_page.h"
+#include "core/fatal_error.h"
+#include "core/text.h"
+
+namespace navarun {
+
+DelimitedWriter& DelimitedWriter::field(std::string_view bytes) {
+    if (std::exchange(m_record_begun, true)) m_bytes += ',';
+    m_bytes += bytes;
+    return *this;
+}
+
+DelimitedWriter& DelimitedWriter::text(std::string_view value) {
+    return field('"' + to_code_page(value) + '"');
+}
+
+DelimitedWriter& DelimitedWriter::number(int value) { return field(std::to_string(value)); }
+
+DelimitedWriter& DelimitedWriter::truth(bool value) {
+    return field(value ? "#TRUE#" : "#FALSE#");
+}
+
+DelimitedWriter& DelimitedWriter::end_record() {
+    m_bytes += text::line_break;
+    m_record_begun = false;
+    return *this;
+}
+
+DelimitedReader::DelimitedReader(std::string bytes, std::string file)
+    : m_bytes{std::move(bytes)}, m_file{std::move(file)} {}
+
+void DelimitedReader::close_value() {
+    if (at_end()) return;
+    char const closing = m_bytes[m_at];
+    if (closing == ',') {
+        ++m_at;
+    } else if (closing == '\r') {
+        ++m_at;
+        if (!at_end() && m_bytes[m_at] == '\n') ++m_at;
+    } else if (closing == '\n') {
+        ++m_at;
+    }
+}
+
+std::string DelimitedReader::read_value() {
+    while (!at_end() && m_bytes[m_at] == ' ') ++m_at;
+    if (at_end()) {
+        throw FatalError{"La lecture du fichier « " + m_file + " » a échoué.",
+                         "Le fichier finit trop tôt."};
+    }
+    if (m_bytes[m_at] == '"') {
+        auto const start = m_at + 1;
+        auto const quote = m_bytes.find('"', start);
+        if (quote == std::string::npos) {
+            throw FatalError{"La lecture du fichier « " + m_file + " » a échoué.",
+                             "Le fichier finit au milieu d'un texte."};
+        }
+        std::string value = m_bytes.substr(start, quote - start);
+        // What stands between the quote and the end of the value belongs to nothing.
+        m_at = std::min(m_bytes.find_first_of(",\r\n", quote + 1), m_bytes.size());
+        close_value();
+        return value;
+    }
+    auto const end = std::min(m_bytes.find_first_of(",\r\n", m_at), m_bytes.size());
+    std::string value = m_bytes.substr(m_at, end - m_at);
+    m_at = end;
+    close_value();
+    return value;
+}
+
+std::string DelimitedReader::read_text() { return from_code_page(read_value()); }
+
+std::uint8_t DelimitedReader::read_byte() {
+    std::string value = read_value();
+    while (value.ends_with(' ')) value.pop_back();
+    bool const digits = !value.empty() &&
+                        std::ranges::all_of(value, [](char c) { return c >= '0' && c <= '9'; });
+    int const number = digits ? text::number_of(value) : -1;
+    if (number < 0 || number > 255) {
+        throw FatalError{"La lecture du fichier « " + m_file + " » a échoué.",
+                         "« " + from_code_page(value) + " » n'est pas un nombre de 0 à 255."};
+    }
+    return static_cast<std::uint8_t>(number);
+}
+
+}  // namespace navarun

@@ -1,0 +1,181 @@
+// The operating system's calls, each result looked at.
+#include "files/durable_file.h"
+
+#include <array>
+#include <cerrno>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "core/fatal_error.h"
+
+namespace navarun {
+
+namespace {
+
+struct Reason {
+    int number;
+    char const* text;
+};
+
+// What a practitioner reads; rarer reasons are told by their number.
+constexpr std::array<Reason, 12> reasons{{
+    {ENOSPC, "Il n'y a plus de place sur le disque."},
+    {EDQUOT, "Votre part du disque est pleine."},
+    {EACCES, "L'accès est refusé."},
+    {EPERM, "L'accès est refusé."},
+    {EROFS, "Le disque est protégé contre l'écriture."},
+    {EIO, "Le disque a signalé une erreur."},
+    {ENOENT, "Le fichier ou son dossier n'existe pas."},
+    {ENOTDIR, "Un fichier se trouve à la place d'un dossier."},
+    {EISDIR, "Un dossier se trouve à la place du fichier."},
+    {ENAMETOOLONG, "Le nom est trop long."},
+    {EMFILE, "Trop de fichiers sont ouverts."},
+    {ENFILE, "Trop de fichiers sont ouverts."},
+}};
+
+std::string reason_of(int number) {
+    for (auto const& reason : reasons) {
+        if (reason.number == number) return reason.text;
+    }
+    return "Le système a signalé l'erreur " + std::to_string(number) + ".";
+}
+
+[[noreturn]] void fail(char const* attempted, std::string const& file, int number) {
+    throw FatalError{std::string{attempted} + " du fichier « " + file + " » a échoué.",
+                     reason_of(number)};
+}
+
+constexpr char const* reading = "La lecture";
+constexpr char const* writing = "L'écriture";
+constexpr char const* moving = "Le déplacement";
+constexpr char const* deleting = "La suppression";
+
+// An open file, closed with the block that holds it.
+class Descriptor {
+  public:
+    explicit Descriptor(int number) : m_number{number} {}
+    ~Descriptor() {
+        if (m_number >= 0) ::close(m_number);
+    }
+    Descriptor(Descriptor const&) = delete;
+    Descriptor& operator=(Descriptor const&) = delete;
+
+    int number() const { return m_number; }
+    bool is_open() const { return m_number >= 0; }
+    /// Closes it and tells whether that failed.
+    bool close_fails() { return ::close(std::exchange(m_number, -1)) != 0; }
+
+  private:
+    int m_number;
+};
+
+int open_file(std::filesystem::path const& path, int flags) {
+    int number = 0;
+    do {
+        number = ::open(path.c_str(), flags | O_CLOEXEC, 0666);
+    } while (number < 0 && errno == EINTR);
+    return number;
+}
+
+bool write_all(int descriptor, std::string_view bytes) {
+    while (!bytes.empty()) {
+        auto const written = ::write(descriptor, bytes.data(), bytes.size());
+        if (written < 0 && errno == EINTR) continue;
+        if (written < 0) return false;
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+// Removes the unfinished file again when the write fails.
+class Unfinished {
+  public:
+    explicit Unfinished(std::filesystem::path path) : m_path{std::move(path)} {}
+    ~Unfinished() {
+        if (!m_path.empty()) ::unlink(m_path.c_str());
+    }
+    Unfinished(Unfinished const&) = delete;
+    Unfinished& operator=(Unfinished const&) = delete;
+    void keep() { m_path.clear(); }
+
+  private:
+    std::filesystem::path m_path;
+};
+
+// A change of names reaches the disk with its folder.
+void flush_folder(std::filesystem::path const& folder, char const* attempted,
+                  std::string const& shown_as) {
+    Descriptor const directory{open_file(folder, O_RDONLY | O_DIRECTORY)};
+    if (!directory.is_open() || ::fsync(directory.number()) != 0) {
+        fail(attempted, shown_as, errno);
+    }
+}
+
+}  // namespace
+
+std::string read_file(std::filesystem::path const& path, std::string const& shown_as) {
+    Descriptor const file{open_file(path, O_RDONLY)};
+    if (!file.is_open()) fail(reading, shown_as, errno);
+    std::string bytes;
+    std::array<char, 16384> block{};
+    while (true) {
+        auto const count = ::read(file.number(), block.data(), block.size());
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) fail(reading, shown_as, errno);
+        if (count == 0) return bytes;
+        bytes.append(block.data(), static_cast<std::size_t>(count));
+    }
+}
+
+void write_file(std::filesystem::path const& path, std::string_view bytes,
+                std::string const& shown_as) {
+    auto const folder = path.parent_path();
+    auto const unfinished_path = folder / unfinished_file;
+    Descriptor file{open_file(unfinished_path, O_WRONLY | O_CREAT | O_TRUNC)};
+    if (!file.is_open()) fail(writing, shown_as, errno);
+    Unfinished unfinished{unfinished_path};
+    if (!write_all(file.number(), bytes)) fail(writing, shown_as, errno);
+    if (::fsync(file.number()) != 0) fail(writing, shown_as, errno);
+    if (file.close_fails()) fail(writing, shown_as, errno);
+    if (::rename(unfinished_path.c_str(), path.c_str()) != 0) fail(writing, shown_as, errno);
+    unfinished.keep();
+    flush_folder(folder, writing, shown_as);
+}
+
+void move_file(std::filesystem::path const& source, std::filesystem::path const& target,
+               std::string const& shown_as) {
+    if (::rename(source.c_str(), target.c_str()) != 0) fail(moving, shown_as, errno);
+    flush_folder(target.parent_path(), moving, shown_as);
+    flush_folder(source.parent_path(), moving, shown_as);
+}
+
+void delete_file(std::filesystem::path const& path, std::string const& shown_as) {
+    if (::unlink(path.c_str()) != 0) fail(deleting, shown_as, errno);
+    flush_folder(path.parent_path(), deleting, shown_as);
+}
+
+void remove_unfinished_file(std::filesystem::path const& folder) {
+    std::error_code ignored;
+    std::filesystem::remove(folder / unfinished_file, ignored);
+}
+
+FolderLock::~FolderLock() {
+    if (m_descriptor >= 0) ::close(m_descriptor);
+}
+
+bool FolderLock::take(std::filesystem::path const& folder) {
+    int const descriptor = open_file(folder, O_RDONLY | O_DIRECTORY);
+    if (descriptor < 0) return true;
+    if (::flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+        ::close(descriptor);
+        return false;
+    }
+    m_descriptor = descriptor;
+    return true;
+}
+
+}  // namespace navarun

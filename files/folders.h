@@ -1,0 +1,35 @@
+// The folder tree beside the program, and the files of fixed names in it.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace navarun {
+
+class Program;
+
+/// Paths from the application folder on; folders end with the separator, so that a file name is
+/// appended without one.
+struct Folders {
+    std::string dossier_ressources;
+    std::string dossier_actif;
+    std::string dossier_autre;
+    std::string dossier_image;
+    std::string dossier_capture;
+    std::string chemin_config;
+    std::string chemin_internet;
+};
+
+/// Whether the file system has an entry at `path`; with a closing separator, a folder.
+bool FichDoss_existe(std::filesystem::path const& path);
+/// Whether a file, not a folder, stands at `path`. An unreadable or missing path gives false.
+bool FileExists(std::filesystem::path const& path);
+
+/// Makes the missing folders and removes what a killed run left in them. A folder that cannot
+/// be made is not told: the first file in it will be.
+void cree_repertoire(Program& program);
+
+/// Sets the paths of the folders and files below the resource folder.
+void set_paths(Folders& folders);
+
+}  // namespace navarun

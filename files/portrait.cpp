@@ -1,0 +1,94 @@
+// Choosing and showing portraits.
+#include "files/portrait.h"
+
+#include "chart/palace_colours.h"
+#include "core/dialogue.h"
+#include "files/browser.h"
+#include "files/durable_file.h"
+#include "files/fitted_picture.h"
+#include "shell/image_store.h"
+#include "shell/program.h"
+
+namespace navarun {
+
+namespace {
+
+constexpr int twips_per_pixel = 15;
+
+void back_to_ganesha(Program& program) {
+    program.form1.Picture_PHOTO.Picture = picture::ganesha;
+    program.consultation.fichier_photo = std::string{};
+    couleur_Disk_Rouge_Vert(program);
+}
+
+// The pointer over an empty portrait names it, in the state itself: a record saved afterwards
+// holds that name.
+void name_portrait(Program& program) {
+    auto& portrait = program.consultation.fichier_photo;
+    auto const* const name = std::get_if<std::string>(&portrait);
+    if (name != nullptr && name->empty()) portrait = "Seigneur Ganesha";
+    auto const* const shown = std::get_if<std::string>(&portrait);
+    program.form1.Picture_PHOTO.ToolTipText =
+        shown != nullptr ? *shown : (std::get<bool>(portrait) ? "Vrai" : "Faux");
+}
+
+// A name that no file of the portrait folder bears yet.
+std::string free_portrait_name(Program& program, std::filesystem::path const& dropped) {
+    std::string name = dropped.filename().string();
+    for (int number = 2; FileExists(program.path_of(program.folders.dossier_image + name));
+         ++number) {
+        name = dropped.stem().string() + " (" + std::to_string(number) + ")" +
+               dropped.extension().string();
+    }
+    return name;
+}
+
+void take_dropped_file(Program& program, std::filesystem::path const& dropped) {
+    if (!has_ending(dropped.filename().string(), portrait_endings)) {
+        transient_message(program, "Ce fichier n'est pas une image !", 2);
+        return;
+    }
+    std::string const name = free_portrait_name(program, dropped);
+    write_file(program.path_of(program.folders.dossier_image + name),
+               read_file(dropped, dropped.filename().string()), name);
+    if (program.form1.Frame_FileFichier.Visible) program.form1.File_Fichier.refresh();
+    choose_portrait(program, name);
+}
+
+}  // namespace
+
+Endings const portrait_endings{".gif", ".bmp", ".jpg", ".jpeg"};
+
+void affiche_image_ajustee(Program& program, std::string const& name) {
+    auto& box = program.form1.Picture_PHOTO;
+    auto const path = program.path_of(program.folders.dossier_image + name);
+    PictureSize const size = program.platform.picture_size(path);
+    double const box_width = static_cast<double>(box.Width) / twips_per_pixel;
+    double const box_height = static_cast<double>(box.Height) / twips_per_pixel;
+    auto const place = fitted(box_width, box_height, size.width, size.height);
+    box.paint({.path = path.string(),
+               .x = place.x,
+               .y = place.y,
+               .width = place.width,
+               .height = place.height},
+              name);
+}
+
+void choose_portrait(Program& program, std::string const& name) {
+    program.consultation.fichier_photo = name;
+    affiche_image_ajustee(program, name);
+    couleur_Disk_Rouge_Vert(program);
+    leave_image_mode(program);
+    close_browser(program);
+}
+
+void wire_portrait(Program& program) {
+    auto& box = program.form1.Picture_PHOTO;
+    box.on_double_click = [&program] { back_to_ganesha(program); };
+    box.on_mouse_move = [&program](screen::Mouse const&) { name_portrait(program); };
+    box.on_file_drop = [&program](std::string const& path) {
+        take_dropped_file(program, path);
+    };
+}
+
+}  // namespace navarun
