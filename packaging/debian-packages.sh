@@ -8,7 +8,7 @@ build_packages=(
 )
 run_packages=(
     qt6-qpa-plugins qt6-translations-l10n
-    fonts-liberation
+    fonts-liberation xdg-utils
 )
 virtual_display_packages=(
     xvfb xdotool imagemagick
@@ -16,6 +16,10 @@ virtual_display_packages=(
 test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     xvfb xdotool imagemagick openbox
+)
+
+long_test_packages=(
+    clang libclang-rt-14-dev
 )
 
 # Installs those of the given packages that are not there; by sudo where this is not root.
