@@ -3,13 +3,12 @@
 // so.
 #include <array>
 #include <filesystem>
-#include <iostream>
-#include <map>
 #include <string>
 #include <vector>
 
 #include <benchmark/benchmark.h>
 
+#include "bench/ratios.h"
 #include "tools/pilote/pilot.h"
 
 namespace navarun {
@@ -207,47 +206,16 @@ void floor_of_a_start(benchmark::State& state) {
 }
 BENCHMARK(floor_of_a_start)->Unit(benchmark::kMicrosecond);
 
-// Prints each figure as the ratio to its floor, after the usual table.
-class Ratios : public benchmark::ConsoleReporter {
-  public:
-    void ReportRuns(std::vector<Run> const& runs) override {
-        benchmark::ConsoleReporter::ReportRuns(runs);
-        for (auto const& run : runs) m_seconds[run.benchmark_name()] = seconds(run);
-    }
-
-    void Finalize() override {
-        struct Pair {
-            char const* figure;
-            char const* floor;
-        };
-        constexpr std::array pairs{
-            Pair{"a_generation", "floor_of_a_generation"},
-            Pair{"an_age_step", "floor_of_an_age_step"},
-            Pair{"a_walk_through_350_ages", "floor_of_a_walk"},
-            Pair{"start_to_finished_grid", "floor_of_a_start"},
-        };
-        std::cout << "\nratio to the floor\n";
-        for (auto const& [figure, floor] : pairs) {
-            if (m_seconds.count(figure) == 0 || m_seconds.count(floor) == 0) continue;
-            std::cout << "  " << figure << " / " << floor << " : "
-                      << m_seconds[figure] / m_seconds[floor] << "\n";
-        }
-    }
-
-  private:
-    static double seconds(Run const& run) {
-        return run.cpu_accumulated_time / static_cast<double>(run.iterations);
-    }
-
-    std::map<std::string, double> m_seconds;
-};
-
 }  // namespace
 
 }  // namespace navarun
 
 int main(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
-    navarun::Ratios reporter;
+    navarun::Ratios reporter{{{"a_generation", "floor_of_a_generation"},
+                              {"an_age_step", "floor_of_an_age_step"},
+                              {"a_walk_through_350_ages", "floor_of_a_walk"},
+                              {"start_to_finished_grid", "floor_of_a_start"}},
+                             navarun::TimeOf::processor};
     benchmark::RunSpecifiedBenchmarks(&reporter);
 }

@@ -154,6 +154,8 @@ class FocusFilter : public QObject {
 
   private:
     void take_focus() {
+        // What a drag is let go on takes no keyboard.
+        if (m_session.program().screen.dragged() != nullptr) return;
         m_session.act([&](screen::User& user) { user.focus(m_control); });
     }
 

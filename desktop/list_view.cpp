@@ -76,11 +76,11 @@ ListView::ListView(Session& session, screen::List& list, QWidget& parent)
     tell_pointer(session, list, *view.viewport());
     QObject::connect(&view, &QListView::clicked, &view,
                      [this](QModelIndex const& at) { choose(at.row()); });
-    QObject::connect(view.selectionModel(), &QItemSelectionModel::currentChanged, &view,
-                     [this](QModelIndex const& at) {
-                         if (at.isValid() && at.row() != this->control().ListIndex) {
-                             choose(at.row());
-                         }
+    QObject::connect(view.selectionModel(), &QItemSelectionModel::selectionChanged, &view,
+                     [this](QItemSelection const& selected) {
+                         if (selected.isEmpty()) return;
+                         int const row = selected.indexes().front().row();
+                         if (row != this->control().ListIndex) choose(row);
                      });
     QObject::connect(&view, &QListView::doubleClicked, &view, [this] {
         this->session().act([this](screen::User& user) { user.double_click(this->control()); });

@@ -2,6 +2,7 @@
 #include "desktop/pictures.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QImageReader>
 
 namespace navarun::desktop {
@@ -58,7 +59,10 @@ QImage decoded(QString const& path, QSize size) {
 
 void Pictures::draw_file(QPainter& painter, screen::PaintedFile const& file) {
     double const ratio = painter.device()->devicePixelRatioF();
-    if (m_file != file || m_file_ratio != ratio) {
+    // A file may be replaced under its name.
+    QDateTime const written = QFileInfo{QString::fromStdString(file.path)}.lastModified();
+    if (m_file != file || m_file_ratio != ratio || m_file_written != written) {
+        m_file_written = written;
         QSizeF const size = QSizeF{file.width, file.height} * ratio;
         m_file_image = decoded(QString::fromStdString(file.path), size.toSize());
         m_file = file;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QCursor>
+#include <QDateTime>
 #include <QPainter>
 #include <QPixmap>
 #include <QRectF>
@@ -36,6 +37,7 @@ class Pictures {
     std::map<std::string, std::unique_ptr<QSvgRenderer>> m_renderers;
     std::map<std::string, QPixmap> m_pixmaps;   // by name and real size
     std::optional<screen::PaintedFile> m_file;  // the one drawn last, and how it came out
+    QDateTime m_file_written;
     double m_file_ratio = 0;
     QImage m_file_image;
 };

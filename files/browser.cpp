@@ -106,11 +106,6 @@ void Charge_click(Program& program, int folder) {
     leave_image_mode(program);
 }
 
-void refresh_list(Program& program) {
-    program.form1.File_Fichier.refresh();
-    program.record_values.fichier_selectionne.clear();
-}
-
 void deplace_fichier(Program& program) {
     auto const& folders = program.folders;
     std::string const name = program.record_values.fichier_selectionne;
@@ -169,6 +164,11 @@ void list_mouse_move(Program& program, screen::Mouse const& mouse) {
 }
 
 }  // namespace
+
+void refresh_list(Program& program) {
+    program.form1.File_Fichier.refresh();
+    program.record_values.fichier_selectionne.clear();
+}
 
 bool browser_shows_images(Program const& program) {
     return program.form1.File_Fichier.BackColor.get() == image_list_ground;

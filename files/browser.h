@@ -9,6 +9,9 @@ class Program;
 /// Hides the panel, empties the search and gives the reset button its own role back.
 void close_browser(Program& program);
 
+/// Reads the list anew; nothing is selected in it then.
+void refresh_list(Program& program);
+
 /// Whether the list shows portraits.
 bool browser_shows_images(Program const& program);
 

@@ -62,8 +62,8 @@ std::string DelimitedReader::read_value() {
                              "Le fichier finit au milieu d'un texte."};
         }
         std::string value = m_bytes.substr(start, quote - start);
-        // What stands between the quote and the end of the value belongs to nothing.
-        m_at = std::min(m_bytes.find_first_of(",\r\n", quote + 1), m_bytes.size());
+        // A quote inside a text ends it; what follows is read as the next value.
+        m_at = quote + 1;
         close_value();
         return value;
     }

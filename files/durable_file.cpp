@@ -22,7 +22,7 @@ struct Reason {
 };
 
 // What a practitioner reads; rarer reasons are told by their number.
-constexpr std::array<Reason, 12> reasons{{
+constexpr std::array<Reason, 13> reasons{{
     {ENOSPC, "Il n'y a plus de place sur le disque."},
     {EDQUOT, "Votre part du disque est pleine."},
     {EACCES, "L'accès est refusé."},
@@ -32,6 +32,7 @@ constexpr std::array<Reason, 12> reasons{{
     {ENOENT, "Le fichier ou son dossier n'existe pas."},
     {ENOTDIR, "Un fichier se trouve à la place d'un dossier."},
     {EISDIR, "Un dossier se trouve à la place du fichier."},
+    {ENODEV, "Ce n'est pas un fichier."},
     {ENAMETOOLONG, "Le nom est trop long."},
     {EMFILE, "Trop de fichiers sont ouverts."},
     {ENFILE, "Trop de fichiers sont ouverts."},
@@ -118,8 +119,13 @@ void flush_folder(std::filesystem::path const& folder, char const* attempted,
 }  // namespace
 
 std::string read_file(std::filesystem::path const& path, std::string const& shown_as) {
-    Descriptor const file{open_file(path, O_RDONLY)};
+    // Without waiting: what is no file must not keep the program for ever.
+    Descriptor const file{open_file(path, O_RDONLY | O_NONBLOCK)};
     if (!file.is_open()) fail(reading, shown_as, errno);
+    struct stat kind {};
+    if (::fstat(file.number(), &kind) != 0) fail(reading, shown_as, errno);
+    if (S_ISDIR(kind.st_mode)) fail(reading, shown_as, EISDIR);
+    if (!S_ISREG(kind.st_mode)) fail(reading, shown_as, ENODEV);
     std::string bytes;
     std::array<char, 16384> block{};
     while (true) {
@@ -148,7 +154,13 @@ void write_file(std::filesystem::path const& path, std::string_view bytes,
 
 void move_file(std::filesystem::path const& source, std::filesystem::path const& target,
                std::string const& shown_as) {
-    if (::rename(source.c_str(), target.c_str()) != 0) fail(moving, shown_as, errno);
+    if (::rename(source.c_str(), target.c_str()) != 0) {
+        if (errno != EXDEV) fail(moving, shown_as, errno);
+        // The folders lie on two disks.
+        write_file(target, read_file(source, shown_as), shown_as);
+        delete_file(source, shown_as);
+        return;
+    }
     flush_folder(target.parent_path(), moving, shown_as);
     flush_folder(source.parent_path(), moving, shown_as);
 }

@@ -51,6 +51,12 @@ bool has_ending(std::string_view name, Endings const& endings) {
     });
 }
 
+bool is_refused_in_file_names(char character) {
+    constexpr std::string_view refused = "/\\:*?\"<>|";
+    return static_cast<unsigned char>(character) < ' ' ||
+           refused.find(character) != refused.npos;
+}
+
 std::vector<std::string> list_files(std::filesystem::path const& folder,
                                     Endings const& endings) {
     std::vector<std::pair<std::string, std::string>> keyed;

@@ -19,6 +19,9 @@ std::vector<std::string> list_files(std::filesystem::path const& folder,
 /// Whether `name` has one of the endings, in any case.
 bool has_ending(std::string_view name, Endings const& endings);
 
+/// Whether a character has no place in a file name, on this platform or another.
+bool is_refused_in_file_names(char character);
+
 /// Searches a list for the first entry that begins with `wanted`, or with `exact` is it,
 /// whatever the case; after the place `start` (-1: from the top), and round to it.
 /// @return the place from 0; -1 where there is none.

@@ -27,6 +27,8 @@ bool FichDoss_existe(std::filesystem::path const& path) {
 }
 
 bool FileExists(std::filesystem::path const& path) {
+    // The system would end the name at a zero byte, and find another file.
+    if (path.native().find('\0') != std::string::npos) return false;
     std::error_code unreadable;
     auto const status = std::filesystem::status(path, unreadable);
     return std::filesystem::exists(status) && !std::filesystem::is_directory(status);

@@ -1,7 +1,10 @@
 // Choosing and showing portraits.
 #include "files/portrait.h"
 
+#include <algorithm>
+
 #include "chart/palace_colours.h"
+#include "core/code_page.h"
 #include "core/dialogue.h"
 #include "files/browser.h"
 #include "files/durable_file.h"
@@ -34,11 +37,14 @@ void name_portrait(Program& program) {
 
 // A name that no file of the portrait folder bears yet.
 std::string free_portrait_name(Program& program, std::filesystem::path const& dropped) {
-    std::string name = dropped.filename().string();
+    // As a record can hold it.
+    std::string name = fitted_to_code_page(dropped.filename().string());
+    std::ranges::replace_if(name, is_refused_in_file_names, '_');
+    std::filesystem::path const named{name};
     for (int number = 2; FileExists(program.path_of(program.folders.dossier_image + name));
          ++number) {
-        name = dropped.stem().string() + " (" + std::to_string(number) + ")" +
-               dropped.extension().string();
+        name = named.stem().string() + " (" + std::to_string(number) + ")" +
+               named.extension().string();
     }
     return name;
 }
@@ -51,7 +57,7 @@ void take_dropped_file(Program& program, std::filesystem::path const& dropped) {
     std::string const name = free_portrait_name(program, dropped);
     write_file(program.path_of(program.folders.dossier_image + name),
                read_file(dropped, dropped.filename().string()), name);
-    if (program.form1.Frame_FileFichier.Visible) program.form1.File_Fichier.refresh();
+    refresh_list(program);
     choose_portrait(program, name);
 }
 

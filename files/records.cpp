@@ -14,6 +14,7 @@
 #include "files/address_book.h"
 #include "files/browser.h"
 #include "files/durable_file.h"
+#include "files/file_list.h"
 #include "files/portrait.h"
 #include "periods/age_scroll.h"
 #include "periods/maha_dasha.h"
@@ -125,8 +126,6 @@ void compute(Program& program) {
     defile_MahaDasha(program);
 }
 
-constexpr std::string_view refused_characters = "/\\:*?\"<>|";
-
 }  // namespace
 
 Record record_on_screen(Program& program) {
@@ -146,11 +145,7 @@ Record record_on_screen(Program& program) {
 }
 
 void refuse_bad_file_name(std::string const& name) {
-    bool const bad = std::ranges::any_of(name, [](char c) {
-        return static_cast<unsigned char>(c) < ' ' ||
-               refused_characters.find(c) != std::string_view::npos;
-    });
-    if (!bad) return;
+    if (std::ranges::none_of(name, is_refused_in_file_names)) return;
     throw FatalError{"L'écriture du fichier « " + name + " » a échoué.",
                      "Un nom de fichier ne prend aucun de ces signes : / \\ : * ? \" < > |"};
 }
@@ -166,7 +161,7 @@ void Sauve_data(Program& program) {
     refuse_bad_file_name(name);
     write_file(program.path_of(values.chemin_fichier), record_bytes(record_on_screen(program)),
                name);
-    form.File_Fichier.refresh();
+    refresh_list(program);
     transient_message(program, "Sauvegarde OK !", 1);
     form.Command_reset.Picture = picture::begin_anew;
 }

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <cstdlib>
+#include <limits>
 
 namespace navarun::pilot {
 
@@ -51,12 +52,16 @@ std::optional<PictureSize> jpeg_size(Bytes const& bytes) {
 std::optional<PictureSize> any_size(std::string_view file) {
     Bytes const bytes{file};
     bool const gif = file.starts_with("GIF87a") || file.starts_with("GIF89a");
+    if (gif && file.size() < 10) return {};
     if (gif) return PictureSize{bytes.little_16(6), bytes.little_16(8)};
     if (file.starts_with("\xFF\xD8\xFF")) return jpeg_size(bytes);
     if (!file.starts_with("BM") || file.size() < 26) return {};
     // The oldest header counts in 16 bits; a height below 0 means lines from the top.
     if (bytes.little_32(14) == 12) return PictureSize{bytes.little_16(18), bytes.little_16(20)};
-    return PictureSize{bytes.little_32(18), std::abs(bytes.little_32(22))};
+    // The least height has no positive of its own.
+    auto const height = std::abs(static_cast<long long>(bytes.little_32(22)));
+    if (height > std::numeric_limits<int>::max()) return {};
+    return PictureSize{bytes.little_32(18), static_cast<int>(height)};
 }
 
 }  // namespace

@@ -1,0 +1,490 @@
+// The pictures: all there, drawn with what every renderer knows, and quiet under the texts.
+#include <QDirIterator>
+#include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <QXmlStreamReader>
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <map>
+#include <set>
+#include <utility>
+
+#include "core/lords.h"
+#include "desktop/pictures.h"
+#include "desktop/to_qt.h"
+#include "shell/image_store.h"
+#include "tests/desktop/window_fixture.h"
+
+namespace navarun::test {
+
+namespace {
+
+// --- Every picture that a name can call for -------------------------------------------------
+
+struct Wanted {
+    std::string name;
+    QSize size;
+};
+
+std::vector<Wanted> stored_pictures() {
+    std::vector<Wanted> all;
+    for (auto const& stored : image_store) {
+        QSize const size{stored.width, stored.height};
+        if (stored.first_member > stored.last_member) {
+            all.push_back({std::string{stored.name}, size});
+        }
+        for (int i = stored.first_member; i <= stored.last_member; ++i) {
+            all.push_back({screen::Picture{stored.name, i}.name(), size});
+        }
+    }
+    return all;
+}
+
+TEST(Pictures, OfTheStoreAreThereAtTheirNominalSize) {
+    desktop::Pictures pictures;
+    auto const all = stored_pictures();
+    EXPECT_EQ(all.size(), 34U);
+    for (auto const& wanted : all) {
+        EXPECT_EQ(pictures.natural_size(wanted.name), wanted.size) << wanted.name;
+    }
+}
+
+// The sizes that the design gives, typed once more.
+TEST(Pictures, OfTheStoreHaveTheSizesOfTheDesign) {
+    desktop::Pictures pictures;
+    std::pair<char const*, QSize> const sizes[] = {
+        {"Image_Kundali(0)", {491, 479}},
+        {"Image_Kundali(3)", {491, 479}},
+        {"Image_Titre_Navarun(0)", {200, 27}},
+        {"Image_nuage_haut(0)", {214, 60}},
+        {"Image_nuage_Bas(0)", {94, 65}},
+        {"Image_heure(0)", {15, 26}},
+        {"Image_DateNow(0)", {24, 24}},
+        {"CycleBouton(0)", {24, 24}},
+        {"Diskette(0)", {32, 32}},
+        {"reset_efface(0)", {32, 32}},
+        {"reset_efface(1)", {24, 24}},
+        {"DOSSIER(1)", {24, 24}},
+        {"DOSSIER(4)", {24, 24}},
+        {"Image_efface_Photo", {24, 24}},
+        {"Image_Web_Efface", {24, 24}},
+        {"Image_Ganesha", {139, 180}},
+        {"Image_Curseur", {32, 32}},
+        {"Image_Deplace", {32, 32}},
+        {"Picture_NoirBlanc", {1637, 1599}},
+        {"Image_AUM", {667, 678}},
+        {"Image_cal_Julien", {17, 17}},
+        {"ImageTriDeva(1)", {18, 18}},
+        {"ImageTriDeva(2)", {18, 18}},
+        {"ImageTriDeva(4)", {18, 18}},
+        {"ImageTriDeva(5)", {18, 18}},
+    };
+    for (auto const& [name, size] : sizes) EXPECT_EQ(pictures.natural_size(name), size) << name;
+}
+
+TEST(Pictures, OfAnotherNameAreNone) {
+    desktop::Pictures pictures;
+    EXPECT_TRUE(pictures.natural_size("Image_Kundali(4)").isEmpty());
+    EXPECT_TRUE(pictures.natural_size("Label_Dasha").isEmpty());
+}
+
+class WindowPictures : public Window {};
+
+TEST_F(WindowPictures, OfEveryControlAreThereAndNotLargerThanTheirButton) {
+    int checked = 0;
+    for (auto* shown : session().program().screen.forms()) {
+        for (auto* control : shown->controls()) {
+            auto const* const button = dynamic_cast<screen::Button const*>(control);
+            auto const* const image = dynamic_cast<screen::Image const*>(control);
+            auto const* const box = dynamic_cast<screen::PictureBox const*>(control);
+            std::string const name = button != nullptr  ? button->Picture.get().name()
+                                     : image != nullptr ? image->Picture.get().name()
+                                     : box != nullptr   ? box->Picture.get().name()
+                                                        : "";
+            if (name.empty()) continue;
+            ++checked;
+            QSize const size = session().pictures().natural_size(name);
+            EXPECT_FALSE(size.isEmpty()) << name;
+            if (button == nullptr) continue;
+            QSize const room = desktop::to_rect(*button).size();
+            EXPECT_LE(size.width(), room.width()) << name;
+            EXPECT_LE(size.height(), room.height()) << name;
+        }
+    }
+    EXPECT_GE(checked, 20);
+}
+
+// --- What a picture file may hold -----------------------------------------------------------
+
+std::vector<QString> picture_files() {
+    std::vector<QString> files;
+    QDirIterator all{QStringLiteral(":/pictures"), QDirIterator::Subdirectories};
+    while (all.hasNext()) files.push_back(all.next());
+    std::ranges::sort(files);
+    return files;
+}
+
+std::set<QString> const known_elements{
+    "svg",  "g",        "path",    "rect", "circle",         "ellipse",
+    "line", "polyline", "polygon", "defs", "linearGradient", "radialGradient",
+    "stop", "title",    "desc",
+};
+// They call for what a simple renderer leaves out, or reach outside the file.
+std::set<QString> const barred_attributes{
+    "style",        "class",      "filter",     "mask", "clip-path",   "href",
+    "marker-start", "marker-mid", "marker-end", "src",  "font-family",
+};
+
+TEST(PictureFiles, AreWellFormedAndUseSimpleElementsOnly) {
+    auto const files = picture_files();
+    ASSERT_GE(files.size(), 43U);
+    for (auto const& name : files) {
+        QFile file{name};
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+        QXmlStreamReader reader{&file};
+        while (!reader.atEnd()) {
+            reader.readNext();
+            EXPECT_FALSE(reader.isDTD()) << name.toStdString();
+            EXPECT_FALSE(reader.isProcessingInstruction()) << name.toStdString();
+            if (!reader.isStartElement()) continue;
+            EXPECT_TRUE(known_elements.contains(reader.name().toString()))
+                << name.toStdString() << " holds " << reader.name().toString().toStdString();
+            for (auto const& attribute : reader.attributes()) {
+                QString const what = attribute.name().toString();
+                EXPECT_FALSE(barred_attributes.contains(what) || what.startsWith("on"))
+                    << name.toStdString() << " has " << what.toStdString();
+                EXPECT_FALSE(attribute.value().contains(QLatin1String("://")))
+                    << name.toStdString() << " reaches "
+                    << attribute.value().toString().toStdString();
+            }
+        }
+        EXPECT_FALSE(reader.hasError())
+            << name.toStdString() << ": " << reader.errorString().toStdString();
+    }
+}
+
+TEST(PictureFiles, AreAllRendered) {
+    for (auto const& name : picture_files()) {
+        QSvgRenderer renderer{name};
+        ASSERT_TRUE(renderer.isValid()) << name.toStdString();
+        QImage image{renderer.defaultSize(), QImage::Format_ARGB32_Premultiplied};
+        image.fill(Qt::transparent);
+        QPainter painter{&image};
+        renderer.render(&painter);
+        painter.end();
+        bool drawn = false;
+        for (int y = 0; y < image.height() && !drawn; ++y) {
+            for (int x = 0; x < image.width() && !drawn; ++x) {
+                drawn = qAlpha(image.pixel(x, y)) > 0;
+            }
+        }
+        EXPECT_TRUE(drawn) << name.toStdString() << " is empty";
+    }
+}
+
+// --- Told apart without colours -------------------------------------------------------------
+
+QImage rendered(std::string const& name, QColor const& ground) {
+    desktop::Pictures pictures;
+    QSize const size = pictures.natural_size(name);
+    QImage image{size, QImage::Format_RGB32};
+    image.fill(ground);
+    QPainter painter{&image};
+    pictures.draw(painter, name, QRectF{QPointF{0, 0}, QSizeF{size}});
+    return image;
+}
+
+// Pixels whose light differs by more than a fifth of the range.
+int pixels_of_other_light(QImage const& one, QImage const& other) {
+    int count = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            int const difference = qGray(one.pixel(x, y)) - qGray(other.pixel(x, y));
+            count += std::abs(difference) > 51 ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+struct Pair {
+    char const* name;
+    char const* one;
+    char const* other;
+    friend std::ostream& operator<<(std::ostream& out, Pair const& row) {
+        return out << row.name;
+    }
+};
+constexpr Pair state_pairs[] = {
+    {"true_and_stale_cycle", "CycleBouton(0)", "CycleBouton(1)"},
+    {"saved_and_unsaved", "Diskette(0)", "Diskette(1)"},
+    {"folder_1_by_its_state", "DOSSIER(1)", "DOSSIER(2)"},
+    {"folder_2_by_its_state", "DOSSIER(3)", "DOSSIER(4)"},
+    {"active_folder_1_or_2", "DOSSIER(1)", "DOSSIER(3)"},
+    {"inactive_folder_1_or_2", "DOSSIER(2)", "DOSSIER(4)"},
+    {"portrait_and_its_removal", "Bouton_Image", "Image_efface_Photo"},
+    {"address_and_its_removal", "Bouton_Internet", "Image_Web_Efface"},
+    {"two_kinds_of_coincidence", "ImageTriDeva(1)", "ImageTriDeva(4)"},
+};
+class TwoStates : public testing::TestWithParam<Pair> {};
+TEST_P(TwoStates, AreToldApartWithoutColours) {
+    auto const one = rendered(GetParam().one, Qt::white);
+    auto const other = rendered(GetParam().other, Qt::white);
+    if (one.size() == other.size()) {
+        EXPECT_GE(pixels_of_other_light(one, other), 12);
+    }
+    EXPECT_NE(one, other);
+}
+INSTANTIATE_TEST_SUITE_P(Pairs, TwoStates, testing::ValuesIn(state_pairs),
+                         [](auto const& row) { return row.param.name; });
+
+TEST(PrintedPictures, AreBlackOnWhite) {
+    for (auto const* name : {"Picture_NoirBlanc", "Image_AUM", "ImageTriDeva_NB(1)",
+                             "ImageTriDeva_NB(2)", "Image_PalaisDestin_NB"}) {
+        auto const image = rendered(name, Qt::white);
+        bool has_ink = false;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                QColor const pixel{image.pixel(x, y)};
+                // Edges are grey, never coloured.
+                ASSERT_EQ(pixel.hsvSaturation(), 0) << name << " at " << x << ',' << y;
+                has_ink = has_ink || pixel.value() < 16;
+            }
+        }
+        EXPECT_TRUE(has_ink) << name;
+    }
+}
+
+// --- Texts and what lies under them ---------------------------------------------------------
+
+double linear(int channel) {
+    double const share = channel / 255.0;
+    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+}
+
+double luminance(QColor const& colour) {
+    return 0.2126 * linear(colour.red()) + 0.7152 * linear(colour.green()) +
+           0.0722 * linear(colour.blue());
+}
+
+double contrast(QColor const& one, QColor const& other) {
+    double const a = luminance(one) + 0.05;
+    double const b = luminance(other) + 0.05;
+    return std::max(a, b) / std::min(a, b);
+}
+
+constexpr double readable = 4.5;
+
+// What the given colours of a text and its ground force, and what they do reach.
+struct Forced {
+    std::uint32_t text;
+    std::uint32_t ground;  // 0xRRGGBB, or any_ground
+    double least;
+};
+constexpr std::uint32_t any_ground = 0xFFFFFFFF;
+constexpr Forced forced_pairs[] = {
+    {0x808080, any_ground, 3.8},  // dates and names aside, on the boxes of the chart
+    {0x808000, any_ground, 4.0},  // names of the periods, on the same
+    {0xFFFFFF, 0x2C8EDC, 3.4},    // headings on the bands of the azure schemes
+    {0xFFFFFF, 0xC34AED, 3.8},    // and of the mauve ones
+    {0xFF0000, any_ground, 3.3},  // the Julian calendar's name, on the cloud
+};
+
+class TextsOverPictures : public Window {
+  protected:
+    // The window with its labels and without them: where the two differ, a label has its ink.
+    struct Sheets {
+        QImage with_labels;
+        QImage without_labels;
+    };
+    Sheets sheets() {
+        Sheets found{.with_labels = grabbed(), .without_labels = {}};
+        std::vector<QWidget*> hidden;
+        for (auto* control : form().controls()) {
+            auto* const label = dynamic_cast<screen::Label*>(control);
+            if (label == nullptr || !widget(*label).isVisible()) continue;
+            hidden.push_back(&widget(*label));
+            widget(*label).hide();
+        }
+        found.without_labels = grabbed();
+        for (auto* label : hidden) label->show();
+        return found;
+    }
+
+    // The colours that lie under the ink of a label without ground; none where it has no ink.
+    std::set<QRgb> under_ink(Sheets const& sheets, screen::Label const& label) {
+        std::set<QRgb> colours;
+        QRect const place = on_canvas(widget(label));
+        for (int y = place.top(); y <= place.bottom(); ++y) {
+            for (int x = place.left(); x <= place.right(); ++x) {
+                QRgb const ground = sheets.without_labels.pixel(x, y);
+                if (sheets.with_labels.pixel(x, y) != ground) colours.insert(ground);
+            }
+        }
+        return colours;
+    }
+    // The smallest rectangle round the ink of a label, on the canvas.
+    QRect ink_of(Sheets const& sheets, screen::Label const& label) {
+        QRect ink;
+        QRect const place = on_canvas(widget(label));
+        for (int y = place.top(); y <= place.bottom(); ++y) {
+            for (int x = place.left(); x <= place.right(); ++x) {
+                bool const differs =
+                    sheets.with_labels.pixel(x, y) != sheets.without_labels.pixel(x, y);
+                if (differs) ink |= QRect{x, y, 1, 1};
+            }
+        }
+        return ink;
+    }
+
+    // Every pair of a shown text's colour and its ground; the worst pixel where that is a
+    // picture.
+    void check_all(std::string const& state) {
+        Sheets const now = sheets();
+        int checked = 0;
+        for (auto* control : form().controls()) {
+            auto* const text = dynamic_cast<screen::TextControl*>(control);
+            if (text == nullptr || !widget_of(*control).isVisible()) continue;
+            auto* const label = dynamic_cast<screen::Label*>(control);
+            auto* const button = dynamic_cast<screen::Button*>(control);
+            if (button != nullptr || dynamic_cast<screen::Frame*>(control) != nullptr) continue;
+            if (label != nullptr && label->Caption.get().empty()) continue;
+            QColor const fore = desktop::to_qt(text->ForeColor.get());
+            ++checked;
+            if (label == nullptr || label->Opaque) {
+                check(state, *text, fore, desktop::to_qt(text->BackColor.get()));
+                continue;
+            }
+            for (QRgb const ground : under_ink(now, *label)) check(state, *text, fore, ground);
+        }
+        EXPECT_GE(checked, 30) << state;
+    }
+
+  private:
+    QWidget& widget_of(screen::Control const& control) { return widget(control); }
+    QWidget& canvas() { return *window().findChild<QWidget*>(QStringLiteral("canvas")); }
+    QImage grabbed() { return canvas().grab().toImage().convertToFormat(QImage::Format_RGB32); }
+    QRect on_canvas(QWidget& shown) {
+        return QRect{shown.mapTo(&canvas(), QPoint{0, 0}), shown.size()} & canvas().rect();
+    }
+
+    static void check(std::string const& state, screen::TextControl const& control,
+                      QColor const& fore, QColor const& ground) {
+        double least = readable;
+        for (auto const& pair : forced_pairs) {
+            bool const same_ground =
+                pair.ground == any_ground || QColor::fromRgb(pair.ground) == ground;
+            if (QColor::fromRgb(pair.text) == fore && same_ground) least = pair.least;
+        }
+        EXPECT_GE(contrast(fore, ground), least)
+            << control.full_name() << " in " << state << ": " << fore.name().toStdString()
+            << " on " << ground.name().toStdString();
+    }
+};
+
+std::array<screen::MenuEntry Form1::*, 4> const scheme_entries{
+    &Form1::MnuAzur_cycle, &Form1::MnuAzur_Aum, &Form1::MnuMauve_cycle, &Form1::MnuMauve_Aum};
+
+class SchemeTexts : public TextsOverPictures, public testing::WithParamInterface<int> {
+  protected:
+    SchemeTexts() { choose_menu(form().*scheme_entries[static_cast<std::size_t>(GetParam())]); }
+    std::string scheme() const { return "scheme " + std::to_string(GetParam()); }
+};
+INSTANTIATE_TEST_SUITE_P(Schemes, SchemeTexts, testing::Range(0, 4));
+
+// What the names of the nine lords wear in their own fields.
+TEST(LordColours, AreReadable) {
+    for (auto const& lord : lords) {
+        EXPECT_GE(contrast(desktop::to_qt(lord.fore), desktop::to_qt(lord.back)), readable)
+            << lord.name;
+    }
+}
+
+// Under a text of a cell lies one flat light colour, however long the name.
+TEST_P(SchemeTexts, OfTheCellsLieOnOneFlatLightColour) {
+    session().act([&](screen::User&) {
+        for (int cell = 1; cell <= 12; ++cell) {
+            form().Label_Dasha(cell).Caption = "*Chandra";
+            form().Label_Dasha(cell).FontBold = true;
+            form().Label_annee(cell).Visible = true;
+            form().Label_annee(cell).Caption = "Chandra";
+            form().Label_mois(cell).Caption = "Chandra";
+            form().Label_mois(cell).FontBold = true;
+            form().Label_Solaire(cell).Visible = true;
+            form().Label_Solaire(cell).Caption = "12";
+        }
+    });
+    Sheets const now = sheets();
+    std::set<QRgb> colours_of_all_cells;
+    for (int cell = 1; cell <= 12; ++cell) {
+        for (auto* row : {&form().Label_Dasha, &form().Label_DashaDate, &form().Label_annee,
+                          &form().Label_mois, &form().Label_MoisDate, &form().Label_Solaire}) {
+            auto const& label = (*row)(cell);
+            // The one in the sun's box has its own ground.
+            if (label.Opaque) continue;
+            QRect const ink = ink_of(now, label);
+            ASSERT_FALSE(ink.isEmpty()) << label.full_name();
+            std::set<QRgb> colours;
+            for (int y = ink.top(); y <= ink.bottom(); ++y) {
+                for (int x = ink.left(); x <= ink.right(); ++x) {
+                    colours.insert(now.without_labels.pixel(x, y));
+                }
+            }
+            EXPECT_EQ(colours.size(), 1U) << label.full_name();
+            EXPECT_GE(luminance(QColor{*colours.begin()}), 0.9) << label.full_name();
+            colours_of_all_cells.insert(colours.begin(), colours.end());
+        }
+    }
+    EXPECT_EQ(colours_of_all_cells.size(), 1U);
+}
+
+TEST_P(SchemeTexts, OfTheStartAreReadable) { check_all(scheme() + ", start"); }
+
+TEST_P(SchemeTexts, OfAConsultationAreReadable) {
+    click(form().Combo_jourNaiss);
+    type("17051962");
+    check_all(scheme() + ", stale");
+    click(form().Command2);
+    click(form().Command_DateNow);
+    check_all(scheme() + ", present age");
+    click(form().Command_categorie);
+    check_all(scheme() + ", coloured palaces");
+    double_click(form().Label_Solaire(3));
+    check_all(scheme() + ", definition");
+    choose_menu(form().Mnu_Julien);
+    check_all(scheme() + ", Julian");
+}
+
+TEST_P(SchemeTexts, OfTheListsAreReadable) {
+    click(form().Charge(1));
+    check_all(scheme() + ", records");
+    click(form().Charge(1));
+    click(form().Bouton_Image);
+    check_all(scheme() + ", portraits");
+    click(form().Bouton_Image);
+    click(form().Bouton_Internet);
+    check_all(scheme() + ", addresses");
+}
+
+TEST_P(SchemeTexts, OfTheArrowWindowAreReadable) {
+    choose_menu(form().MnuFleche);
+    auto& fleche = session().program().fleche;
+    for (int const index : fleche.Option_Fleche.indexes()) {
+        auto const& option = fleche.Option_Fleche(index);
+        EXPECT_GE(contrast(desktop::to_qt(option.ForeColor.get()),
+                           desktop::to_qt(option.BackColor.get())),
+                  readable)
+            << option.full_name();
+    }
+}
+
+TEST_P(SchemeTexts, OfAMessageAreReadable) {
+    session().act([&](screen::User&) { form().frame_messageSauve.Visible = true; });
+    check_all(scheme() + ", message");
+}
+
+}  // namespace
+
+}  // namespace navarun::test
