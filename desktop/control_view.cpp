@@ -283,10 +283,19 @@ class ScrollBarView : public PlacedView<screen::ScrollBar, QScrollBar> {
     }
 };
 
-class OptionView : public PlacedView<screen::OptionButton, QRadioButton> {
+// An option answers on the whole of its place, not on its words alone.
+class WideRadioButton : public QRadioButton {
+  public:
+    using QRadioButton::QRadioButton;
+
+  protected:
+    bool hitButton(QPoint const& where) const override { return rect().contains(where); }
+};
+
+class OptionView : public PlacedView<screen::OptionButton, WideRadioButton> {
   public:
     OptionView(Session& session, screen::OptionButton& option, QWidget& parent)
-        : PlacedView{session, option, new QRadioButton{&parent}} {
+        : PlacedView{session, option, new WideRadioButton{&parent}} {
         // The model keeps to one choice in a group.
         shown().setAutoExclusive(false);
         shown().setBackgroundRole(QPalette::Window);

@@ -17,7 +17,7 @@ inline constexpr screen::Colour couleur_actuelle{192, 64, 0};
 
 struct PeriodValues {
     // The schedule of the person: the birthday of the year in which each period starts.
-    std::array<std::string, 9 * nombre_cycles> dates_age;
+    std::array<std::string, std::size_t{9} * nombre_cycles> dates_age;
 
     // The row of the periods.
     int seigneur_dasha = 0;  // lord last assigned by any sequence; never reset

@@ -73,7 +73,7 @@ bool User::press(EntryControl& control, char32_t character) {
     return control.read_only() || (control.on_key_press && control.on_key_press(character));
 }
 
-void User::edit(EntryControl& control, std::string text, int caret) {
+void User::edit(EntryControl& control, std::string_view text, int caret) {
     require_usable(control);
     if (control.read_only()) refuse_kind(control);
     control.edit(fitted_to_code_page(text), caret);

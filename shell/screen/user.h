@@ -49,7 +49,7 @@ class User {
     bool press(EntryControl& control, char32_t character);
     /// An edit made in place, with the caret where it now stands, in characters. REQUIRES that
     /// `control` has the focus; an edit that differs in nothing fires nothing.
-    void edit(EntryControl& control, std::string text, int caret);
+    void edit(EntryControl& control, std::string_view text, int caret);
 
     /// The edit of a text as a whole; what does not fit is cut, what is no digit is dropped
     /// from a date field.
