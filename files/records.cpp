@@ -16,6 +16,7 @@
 #include "files/durable_file.h"
 #include "files/portrait.h"
 #include "periods/age_scroll.h"
+#include "periods/cycle_window.h"
 #include "periods/maha_dasha.h"
 #include "periods/partial_cycle.h"
 #include "periods/tri_deva.h"
@@ -183,6 +184,7 @@ void load_selected_record(Program& program) {
         return;
     }
     compute(program);
+    cycle20ans(program);
     form.Command_Disk_Vert.Enabled = true;
     form.Command_Disk_Vert.Picture = picture::saved;
     form.HScroll_age.Tag = "ROUGE";
