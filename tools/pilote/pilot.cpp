@@ -75,6 +75,22 @@ Json to_json(NamedValue const& value) {
     return std::visit(Writer{}, value);
 }
 
+// Requests inside a wait may hold such requests in turn; nobody means more than this.
+constexpr int greatest_depth = 100;
+
+// The object of a line; a discarded value where it is none, as what is nested without measure.
+Json parsed(std::string const& line) {
+    // The parser would take this character for the end of the text.
+    if (line.find('\0') != std::string::npos) return Json::value_t::discarded;
+    bool too_deep = false;
+    auto const watch_depth = [&](int depth, Json::parse_event_t, Json&) {
+        too_deep = too_deep || depth > greatest_depth;
+        return !too_deep;
+    };
+    Json request = Json::parse(line, watch_depth, /*allow_exceptions=*/false);
+    return too_deep ? Json{Json::value_t::discarded} : request;
+}
+
 // "HH:MM:SS" in seconds since midnight; negative for anything else.
 double read_time(std::string_view text) {
     auto const digit = [&](std::size_t i) { return text[i] >= '0' && text[i] <= '9'; };
@@ -132,11 +148,10 @@ Pilot::Pilot(std::filesystem::path application_folder)
 }
 
 std::string Pilot::answer_line(std::string const& line) {
-    Json const request = Json::parse(line, nullptr, /*allow_exceptions=*/false);
     m_during = Json::array();
     Json result;
     try {
-        result = answer(request);
+        result = answer(parsed(line));
     } catch (ProgramEnded const&) {
         m_exit_status = 0;
         result = {{"ended", true}};
