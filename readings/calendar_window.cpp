@@ -192,6 +192,8 @@ void load(Program& program) {
     window.Label_horloge.Caption = write_date(today);
     show_time(program);
     window.Stacking = screen::Stacking::topmost;
+    window.chkWeek.Value = 0;
+    window.chkFerie.Value = 0;
     // The lists fire as they are filled.
     values.cal_calcul = true;
     window.cAn.clear();
