@@ -73,8 +73,7 @@ void load(Program& program) {
 void close(Program& program) {
     efface_fleche(program);
     program.form1.MnuFleche.Checked = false;
-    program.fleche.Visible = false;
-    program.fleche_loaded = false;
+    program.fleche.unload();
 }
 
 void MnuFleche_click(Program& program) {
@@ -90,10 +89,7 @@ void MnuFleche_click(Program& program) {
         return;
     }
     program.form1.MnuFleche.Checked = true;
-    // A window that was only hidden keeps its settings.
-    if (!program.fleche_loaded) load(program);
-    program.fleche_loaded = true;
-    window.Visible = true;
+    window.open();
 }
 
 void choose_width(Program& program, screen::Mouse const& mouse) {
@@ -113,6 +109,7 @@ void wipe_arrows(Program& program) {
 void wire_arrow_dialog(Program& program) {
     auto& window = program.fleche;
     program.form1.MnuFleche.on_click = [&program] { MnuFleche_click(program); };
+    window.on_load = [&program] { load(program); };
     window.on_close = [&program] { close(program); };
     for (int const index : window.Option_Fleche.indexes()) {
         window.Option_Fleche(index).on_click = [&program, index] {

@@ -142,7 +142,7 @@ void dessine_fleche(Program& program) {
 void efface_fleche(Program& program) {
     if (!program.arrow.fleche_dessinee) return;
     load_chart(program);
-    program.fleche.Visible = false;
+    program.fleche.hide();  // it keeps its settings
     program.form1.MnuFleche.Checked = false;
     program.arrow.fleche_dessinee = false;
 }

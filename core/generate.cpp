@@ -2,11 +2,13 @@
 #include "core/generate.h"
 
 #include "chart/kundali.h"
+#include "periods/age_chooser.h"
 #include "periods/age_scroll.h"
 #include "periods/maha_dasha.h"
 #include "periods/partial_cycle.h"
 #include "periods/tri_deva.h"
 #include "periods/year_month_lords.h"
+#include "readings/destiny_palace.h"
 #include "shell/program.h"
 #include "zodiac/solar_position.h"
 
@@ -21,9 +23,11 @@ void generate(Program& program) {
         return;
     }
     load_chart(program);
+    close_age_chooser(program);
     change_couleurAge(program, "vert");
     CyclePartiel_annule(program);
     form.Mnuperiode.Enabled = true;
+    close_destiny_palace(program);
     cycle(program);
     Position_solaire(program);
     seigneur_annee(program);

@@ -51,6 +51,8 @@ void Command_reset_click(Program& program) {
 
 void reset(Program& program) {
     auto& form = program.form1;
+    program.affiche_cycle.hide();
+    program.frm_calend.hide();
     efface_fleche(program);
     form.Picture_PHOTO.Picture = picture::ganesha;
     program.consultation.fichier_photo = std::string{};

@@ -7,6 +7,7 @@
 #include "files/address_book.h"
 #include "files/settings.h"
 #include "periods/age_scroll.h"
+#include "periods/cycle_window.h"
 #include "periods/maha_dasha.h"
 #include "periods/tri_deva.h"
 #include "periods/year_month_lords.h"
@@ -100,6 +101,7 @@ void Form_Load(Program& program) {
     Maha_Dasha(program);
     defile_MahaDasha(program);
     Dinaka_Punanka_Text(program);
+    cycle20ans(program);
     change_couleurAge(program, "vert");
     triDeva(program);
 }

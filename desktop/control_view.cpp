@@ -2,6 +2,8 @@
 #include "desktop/control_view.h"
 
 #include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QRadioButton>
@@ -158,6 +160,12 @@ class PictureButton : public QAbstractButton {
         setFocusPolicy(Qt::StrongFocus);
     }
 
+    void set_ground(QColor const& ground) {
+        if (ground == m_ground) return;
+        m_ground = ground;
+        update();
+    }
+
     void set_picture(std::string const& name) {
         if (name == m_picture) return;
         m_picture = name;
@@ -168,9 +176,9 @@ class PictureButton : public QAbstractButton {
     void paintEvent(QPaintEvent*) override {
         QPainter painter{this};
         painter.setRenderHint(QPainter::Antialiasing);
-        QColor const ground = isDown()       ? QColor{0xDC, 0xE6, 0xEE}
-                              : underMouse() ? QColor{0xF2, 0xF7, 0xFB}
-                                             : QColor{Qt::white};
+        QColor const ground = isDown()       ? m_ground.darker(112)
+                              : underMouse() ? m_ground.darker(104)
+                                             : m_ground;
         painter.setPen(hasFocus() ? QPen{QColor{0x0B, 0x3A, 0x66}, 2}
                                   : QPen{QColor{0x9F, 0xB3, 0xC4}, 1});
         painter.setBrush(isEnabled() ? ground : QColor{0xEE, 0xEE, 0xEE});
@@ -211,6 +219,7 @@ class PictureButton : public QAbstractButton {
   private:
     Pictures& m_pictures;
     std::string m_picture;
+    QColor m_ground{Qt::white};
 };
 
 class ButtonView : public PlacedView<screen::Button, PictureButton> {
@@ -227,6 +236,7 @@ class ButtonView : public PlacedView<screen::Button, PictureButton> {
     void show_content() override {
         shown().setFont(font_of(control()));
         shown().setText(to_qt(control().Caption.get()));
+        shown().set_ground(to_qt(control().BackColor.get()));
         shown().set_picture(control().Picture.get().name());
     }
 };
@@ -283,19 +293,69 @@ class ScrollBarView : public PlacedView<screen::ScrollBar, QScrollBar> {
     }
 };
 
-// An option answers on the whole of its place, not on its words alone.
-class WideRadioButton : public QRadioButton {
+// A switch that answers on the whole of its place, not on its words alone.
+template <typename Switch>
+class WideSwitch : public Switch {
   public:
-    using QRadioButton::QRadioButton;
+    using Switch::Switch;
 
   protected:
-    bool hitButton(QPoint const& where) const override { return rect().contains(where); }
+    bool hitButton(QPoint const& where) const override { return this->rect().contains(where); }
 };
 
-class OptionView : public PlacedView<screen::OptionButton, WideRadioButton> {
+class CheckView : public PlacedView<screen::CheckBox, WideSwitch<QCheckBox>> {
+  public:
+    CheckView(Session& session, screen::CheckBox& box, QWidget& parent)
+        : PlacedView{session, box, new WideSwitch<QCheckBox>{&parent}} {
+        shown().setBackgroundRole(QPalette::Window);
+        shown().setForegroundRole(QPalette::WindowText);
+        shown().setAutoFillBackground(true);
+        tell_focus(session, box, shown());
+        QObject::connect(&shown(), &QCheckBox::clicked, &shown(), [this] {
+            this->session().act([this](screen::User& user) { user.click(this->control()); });
+        });
+    }
+
+  protected:
+    void show_content() override {
+        shown().setFont(font_of(control()));
+        shown().setText(to_qt(control().Caption.get()));
+        set_colour(shown(), QPalette::Window, to_qt(control().BackColor.get()));
+        set_colour(shown(), QPalette::WindowText, to_qt(control().ForeColor.get()));
+        shown().setChecked(control().Value == 1);
+    }
+};
+
+class DropDownView : public PlacedView<screen::DropDown, QComboBox> {
+  public:
+    DropDownView(Session& session, screen::DropDown& list, QWidget& parent)
+        : PlacedView{session, list, new QComboBox{&parent}}, m_model{list} {
+        shown().setModel(&m_model);
+        shown().setMaxVisibleItems(16);
+        tell_focus(session, list, shown());
+        QObject::connect(&shown(), &QComboBox::activated, &shown(), [this](int entry) {
+            this->session().act(
+                [&](screen::User& user) { user.choose(this->control(), entry); });
+        });
+    }
+
+  protected:
+    void show_content() override {
+        QSignalBlocker const silent{shown()};
+        shown().setFont(font_of(control()));
+        set_colour(shown(), QPalette::Base, to_qt(control().BackColor.get()));
+        m_model.follow();
+        shown().setCurrentIndex(control().ListIndex);
+    }
+
+  private:
+    EntriesModel m_model;
+};
+
+class OptionView : public PlacedView<screen::OptionButton, WideSwitch<QRadioButton>> {
   public:
     OptionView(Session& session, screen::OptionButton& option, QWidget& parent)
-        : PlacedView{session, option, new WideRadioButton{&parent}} {
+        : PlacedView{session, option, new WideSwitch<QRadioButton>{&parent}} {
         // The model keeps to one choice in a group.
         shown().setAutoExclusive(false);
         shown().setBackgroundRole(QPalette::Window);
@@ -345,6 +405,10 @@ std::unique_ptr<ControlView> make_view(Session& session, screen::PlacedControl& 
             return make.operator()<SurfaceView<screen::PictureBox>, screen::PictureBox>();
         case screen::Kind::frame:
             return make.operator()<SurfaceView<screen::Frame>, screen::Frame>();
+        case screen::Kind::check_box:
+            return make.operator()<CheckView, screen::CheckBox>();
+        case screen::Kind::drop_down:
+            return make.operator()<DropDownView, screen::DropDown>();
         case screen::Kind::option_button:
             return make.operator()<OptionView, screen::OptionButton>();
         case screen::Kind::shape:
@@ -352,6 +416,7 @@ std::unique_ptr<ControlView> make_view(Session& session, screen::PlacedControl& 
         case screen::Kind::scroll_bar:
             return make.operator()<ScrollBarView, screen::ScrollBar>();
         case screen::Kind::form:
+        case screen::Kind::timer:
         case screen::Kind::menu_entry:
         case screen::Kind::menu_separator:
             break;

@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QScrollArea>
+#include <QTimer>
 
 #include "desktop/session.h"
 #include "desktop/to_qt.h"
@@ -19,6 +20,7 @@ FormWindow::FormWindow(Session& session, screen::Form& form)
         // A small window beside the main one, above it and all others.
         setWindowFlags(Qt::Tool | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                        Qt::WindowCloseButtonHint | Qt::WindowStaysOnTopHint);
+        if (form.Modal) setWindowModality(Qt::ApplicationModal);
     }
     setContextMenuPolicy(Qt::NoContextMenu);
     m_canvas->setAutoFillBackground(true);
@@ -31,6 +33,7 @@ FormWindow::FormWindow(Session& session, screen::Form& form)
     setCentralWidget(area);
     make_menus();
     make_views();
+    make_timers();
     chain_tab_order();
     show_form();
 }
@@ -79,6 +82,19 @@ void FormWindow::make_menus() {
         auto view = std::make_unique<MenuEntryView>(m_session, *entry, *action);
         view->refresh();
         m_views[entry] = std::move(view);
+    }
+}
+
+void FormWindow::make_timers() {
+    for (auto* control : m_form.controls()) {
+        if (control->kind() != screen::Kind::timer) continue;
+        auto& timer = static_cast<screen::Timer&>(*control);
+        auto* const clock = new QTimer{this};
+        clock->setInterval(timer.Interval);
+        QObject::connect(clock, &QTimer::timeout, this, [this, &timer] {
+            if (isVisible()) m_session.act([&](screen::User&) { timer.on_tick(); });
+        });
+        clock->start();
     }
 }
 

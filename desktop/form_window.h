@@ -34,6 +34,7 @@ class FormWindow : public QMainWindow {
   private:
     void make_views();
     void make_menus();
+    void make_timers();
     void chain_tab_order();
     void show_form();
     bool is_main() const;

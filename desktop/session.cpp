@@ -127,6 +127,12 @@ void Session::open(std::string_view target) {
     QDesktopServices::openUrl(QUrl::fromUserInput(to_qt(target)));
 }
 
+bool Session::has_text_viewer() { return TextViewer::is_installed(); }
+
+void Session::view_text(std::filesystem::path const& file, std::string const&) {
+    m_text_viewer.show(QString::fromStdString(file.string()));
+}
+
 PictureSize Session::picture_size(std::filesystem::path const& file) {
     QSize const size = Pictures::file_size(QString::fromStdString(file.string()));
     if (size.isEmpty()) {

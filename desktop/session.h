@@ -8,6 +8,7 @@
 
 #include "desktop/drag_mode.h"
 #include "desktop/pictures.h"
+#include "desktop/text_viewer.h"
 #include "shell/program.h"
 
 class QEventLoop;
@@ -43,6 +44,8 @@ class Session : public Platform {
     void wait(double seconds, std::string_view shown_message) override;
     Answer box(std::string_view title, std::string_view text, BoxButtons buttons) override;
     void open(std::string_view target) override;
+    bool has_text_viewer() override;
+    void view_text(std::filesystem::path const& file, std::string const& shown_as) override;
     PictureSize picture_size(std::filesystem::path const& file) override;
     bool key_is_held(int code) override;
 
@@ -53,6 +56,7 @@ class Session : public Platform {
     Program m_program;
     std::vector<std::unique_ptr<FormWindow>> m_windows;
     DragMode m_drag_mode{*this};
+    TextViewer m_text_viewer;
     QEventLoop* m_waiting = nullptr;
     std::optional<int> m_exit_status;
     std::function<void()> m_on_end;

@@ -6,6 +6,7 @@
 #include "core/text.h"
 #include "files/delimited.h"
 #include "files/durable_file.h"
+#include "readings/destiny_palace.h"
 #include "shell/image_store.h"
 #include "shell/program.h"
 
@@ -30,6 +31,7 @@ void read_addresses(Program& program) {
 void Bouton_Internet_click(Program& program) {
     auto& form = program.form1;
     form.Command_reset.Picture = picture::erase_address;
+    close_destiny_palace(program);
     form.List_Internet.clear();
     if (form.Frame_Internet.Visible) {
         form.Command_reset.ToolTipText = "Initialise";

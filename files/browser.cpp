@@ -12,6 +12,7 @@
 #include "files/portrait.h"
 #include "files/records.h"
 #include "print/preview.h"
+#include "readings/destiny_palace.h"
 #include "shell/image_store.h"
 #include "shell/program.h"
 
@@ -83,6 +84,7 @@ Colour record_ground(Form1 const& form) {
 void Charge_click(Program& program, int folder) {
     auto& form = program.form1;
     form.Frame_Internet.Visible = false;
+    close_destiny_palace(program);
     make_folder_active(program, folder);
     apercu_impression_Invisible(program);
     form.Text_definition_palais.Visible = false;

@@ -17,6 +17,7 @@
 #include "files/file_list.h"
 #include "files/portrait.h"
 #include "periods/age_scroll.h"
+#include "periods/cycle_window.h"
 #include "periods/maha_dasha.h"
 #include "periods/partial_cycle.h"
 #include "periods/tri_deva.h"
@@ -178,6 +179,7 @@ void load_selected_record(Program& program) {
         return;
     }
     compute(program);
+    cycle20ans(program);
     form.Command_Disk_Vert.Enabled = true;
     form.Command_Disk_Vert.Picture = picture::saved;
     form.HScroll_age.Tag = "ROUGE";

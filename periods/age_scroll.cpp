@@ -8,6 +8,7 @@
 #include "periods/maha_dasha.h"
 #include "periods/year_month_lords.h"
 #include "print/preview.h"
+#include "readings/destiny_palace.h"
 #include "shell/image_store.h"
 #include "shell/program.h"
 #include "zodiac/solar_position.h"
@@ -96,6 +97,7 @@ void change_couleurAge(Program& program, std::string_view state) {
     if (wanted == true_grid.tag && tag.get() == stale_grid.tag) {
         show_state(program, true_grid);
     } else if (wanted == stale_grid.tag && tag.get() == true_grid.tag) {
+        close_destiny_palace(program);
         show_state(program, stale_grid);
     }
     tag = std::move(wanted);

@@ -40,6 +40,9 @@ struct PeriodValues {
     int nombre_tridevas = 0;
     std::string_view genre_trideva;
 
+    // The lines of the cycle list as last made.
+    std::vector<std::string> cycle_lines;
+
     // The grid reduced to the selected cells.
     bool cycle_partiel_actif = false;
 };

@@ -68,7 +68,7 @@ Fleche::Fleche(screen::Screen& screen_)
                "Command1",
                {.place = {150, 4560, 495, 495},
                 .tooltip = "Efface les flêches",
-                .picture = screen::Picture{"Command1"}},
+                .picture = screen::Picture{"Fleche.Command1"}},
                &Frame1} {}
 
 }  // namespace navarun

@@ -45,6 +45,13 @@ class Platform {
     /// not looked at.
     virtual void open(std::string_view target) = 0;
 
+    /// Whether there is a program that shows plain text.
+    virtual bool has_text_viewer() = 0;
+    /// Shows the content of a file in the plain text viewer. The text is taken over before this
+    /// returns, so that the file may go at once.
+    /// @param shown_as  its path from the application folder on
+    virtual void view_text(std::filesystem::path const& file, std::string const& shown_as) = 0;
+
     /// The size of a picture file in pixels, once it is known that the file can be shown.
     /// Throws FatalError where it cannot.
     virtual PictureSize picture_size(std::filesystem::path const& file) = 0;

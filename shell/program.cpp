@@ -15,10 +15,16 @@
 #include "files/records.h"
 #include "files/rescue.h"
 #include "files/settings.h"
+#include "periods/age_chooser.h"
 #include "periods/age_scroll.h"
 #include "periods/current_period.h"
+#include "periods/cycle_window.h"
 #include "periods/partial_cycle.h"
 #include "periods/year_month_lords.h"
+#include "readings/calendar_window.h"
+#include "readings/destiny_palace.h"
+#include "readings/lords_window.h"
+#include "readings/personality_report.h"
 #include "shell/image_store.h"
 #include "zodiac/solar_position.h"
 
@@ -41,6 +47,12 @@ Program::Program(Platform& platform_, std::filesystem::path application_folder_)
     wire_browser(*this);
     wire_portrait(*this);
     wire_address_book(*this);
+    wire_cycle_window(*this);
+    wire_age_chooser(*this);
+    wire_destiny_palace(*this);
+    wire_lords_window(*this);
+    wire_calendar_window(*this);
+    wire_personality_report(*this);
     wire_kundali(*this);
     wire_palace_colours(*this);
     wire_arrow_dialog(*this);

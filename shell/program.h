@@ -17,11 +17,13 @@
 #include "files/folders.h"
 #include "files/records.h"
 #include "periods/period_values.h"
+#include "readings/calendar_values.h"
 #include "shell/fleche.h"
 #include "shell/form1.h"
 #include "shell/platform.h"
 #include "shell/screen/screen.h"
 #include "shell/screen/user.h"
+#include "shell/small_windows.h"
 
 namespace navarun {
 
@@ -97,6 +99,11 @@ class Program {
     screen::User user{screen};
     navarun::Form1 form1{screen};
     navarun::Fleche fleche{screen};
+    navarun::Affiche_cycle affiche_cycle{screen};
+    navarun::Choix_age choix_age{screen};
+    navarun::FrmSeigneurJour frm_seigneur_jour{screen};
+    navarun::Palais_du_destin palais_du_destin{screen};
+    navarun::FrmCalend frm_calend{screen};
 
     Consultation consultation;
     PeriodValues periods;
@@ -107,9 +114,9 @@ class Program {
     RecordValues record_values;
     BrowserValues browser;
     NameReading name_reading;
+    CalendarValues calendar;
     SchemeColours scheme_colours;
     ArrowValues arrow;
-    bool fleche_loaded = false;  // the arrow window has its settings
     FolderLock instance;
     std::array<std::string, 10> url_defaut;
 

@@ -45,6 +45,8 @@ bool Control::takes_focus() const {
         case Kind::list:
         case Kind::button:
         case Kind::option_button:
+        case Kind::check_box:
+        case Kind::drop_down:
         case Kind::scroll_bar:
             return true;
         default:
@@ -61,6 +63,8 @@ bool Control::is_shown() const {
 
 bool Control::can_be_used() const {
     if (!is_shown() || !m_form->Visible || !m_form->Enabled) return false;
+    auto const* const modal = m_form->screen().modal_form();
+    if (modal != nullptr && modal != m_form) return false;
     for (Control const* control = this; control != nullptr; control = control->m_container) {
         if (!control->Enabled) return false;
     }
@@ -203,8 +207,41 @@ void Combo::visit(PropertyVisitor& visitor) const {
     visitor.property("ListIndex", list_index());
 }
 
-List::List(Form& form, std::string_view name, Design const& design, Control* container)
-    : TextControl{form, container, Kind::list, name, {}, design}, ListIndex{*this} {}
+List::List(Form& form, std::string_view name, Design const& design, Control* container,
+           Kind kind)
+    : TextControl{form, container, kind, name, {}, design}, ListIndex{*this} {}
+
+DropDown::DropDown(Form& form, std::string_view name, Design const& design)
+    : List{form, name, design, nullptr, Kind::drop_down} {}
+
+void DropDown::visit(PropertyVisitor& visitor) const {
+    List::visit(visitor);
+    std::string const text = selected();
+    visitor.property("Text", std::string_view{text});
+}
+
+CheckValue& CheckValue::operator=(int value) {
+    int const mark = value != 0 ? 1 : 0;
+    if (m_value == mark) return *this;
+    m_value = mark;
+    detail::mark_changed(*m_owner);
+    if (m_owner->on_click) m_owner->on_click();
+    return *this;
+}
+
+CheckBox::CheckBox(Form& form, std::string_view name, Design const& design, Control* container)
+    : TextControl{form, container, Kind::check_box, name, {}, design},
+      Caption{*this, std::string{design.text}},
+      Value{*this} {}
+
+void CheckBox::visit(PropertyVisitor& visitor) const {
+    TextControl::visit(visitor);
+    visitor.property("Caption", std::string_view{Caption.get()});
+    visitor.property("Value", Value.get());
+}
+
+Timer::Timer(Form& form, std::string_view name, int milliseconds)
+    : Control{form, nullptr, Kind::timer, name, {}, {}}, Interval{milliseconds} {}
 
 std::vector<std::string> const& List::entries() const {
     if (m_stale) {
@@ -430,6 +467,18 @@ Form::Form(Screen& screen_, std::string_view name, Design const& design)
       Opening{design.place},
       m_screen{&screen_} {
     screen_.m_forms.push_back(this);
+}
+
+void Form::open() {
+    if (!std::exchange(m_loaded, true) && on_load) on_load();
+    Visible = true;
+}
+
+void Form::hide() { Visible = false; }
+
+void Form::unload() {
+    Visible = false;
+    m_loaded = false;
 }
 
 Control* Form::find(std::string_view name, std::optional<int> index) const {

@@ -35,6 +35,9 @@ enum class Kind : std::uint8_t {
     picture_box,
     frame,
     option_button,
+    check_box,
+    drop_down,
+    timer,
     shape,
     scroll_bar,
     menu_entry,
@@ -332,7 +335,8 @@ class ListPlace {
 /// somebody looks: a list that is hidden and has become stale costs nothing.
 class List : public TextControl {
   public:
-    List(Form& form, std::string_view name, Design const& design, Control* container = nullptr);
+    List(Form& form, std::string_view name, Design const& design, Control* container = nullptr,
+         Kind kind = Kind::list);
     void visit(PropertyVisitor& visitor) const override;
 
     std::vector<std::string> const& entries() const;
@@ -359,6 +363,49 @@ class List : public TextControl {
     unsigned m_version = 1;
     mutable bool m_stale = false;
     mutable std::vector<std::string> m_entries;
+};
+
+/// A list of which only the selected entry shows until it is opened.
+class DropDown : public List {
+  public:
+    DropDown(Form& form, std::string_view name, Design const& design);
+    void visit(PropertyVisitor& visitor) const override;
+};
+
+/// The mark of a check box, 0 or 1. Click fires where it differs, whoever sets it.
+class CheckBox;
+class CheckValue {
+  public:
+    explicit CheckValue(CheckBox& owner) : m_owner{&owner} {}
+    CheckValue(CheckValue const&) = delete;
+    CheckValue& operator=(CheckValue const&) = delete;
+
+    int get() const { return m_value; }
+    operator int() const { return m_value; }
+    CheckValue& operator=(int value);
+
+  private:
+    CheckBox* m_owner;
+    int m_value = 0;
+};
+
+class CheckBox : public TextControl {
+  public:
+    CheckBox(Form& form, std::string_view name, Design const& design,
+             Control* container = nullptr);
+    void visit(PropertyVisitor& visitor) const override;
+
+    Property<std::string> Caption;
+    CheckValue Value;
+};
+
+/// Ticks as long as its window is shown.
+class Timer : public Control {
+  public:
+    Timer(Form& form, std::string_view name, int milliseconds);
+
+    int const Interval;  // milliseconds
+    std::function<void()> on_tick;
 };
 
 class Button : public TextControl {
@@ -595,6 +642,16 @@ class Form : public Control {
     Property<int> Width;
     Property<int> Height;
     Property<screen::Stacking> Stacking;
+    /// While it is shown the user can do nothing in any other window.
+    bool Modal = false;
+
+    /// Shows the window; the first time, and after each unloading, its load runs before.
+    void open();
+    /// Takes the window off the screen; it keeps what stands in it.
+    void hide();
+    /// Takes the window off the screen; it opens anew.
+    void unload();
+    std::function<void()> on_load;
     /// Where a window beside the main one opens, from the main window's upper left corner.
     Place const Opening;
 
@@ -602,6 +659,7 @@ class Form : public Control {
     friend class Control;
     Screen* m_screen;
     std::vector<Control*> m_controls;
+    bool m_loaded = false;
 };
 
 }  // namespace navarun::screen

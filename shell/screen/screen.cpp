@@ -12,6 +12,23 @@ Form* Screen::find_form(std::string_view name) const {
     return found == m_forms.end() ? nullptr : *found;
 }
 
+Form* Screen::modal_form() const {
+    auto const found = std::ranges::find_if(
+        m_forms, [](Form const* form) { return form->Modal && form->Visible; });
+    return found == m_forms.end() ? nullptr : *found;
+}
+
+void Screen::tick_timers() {
+    for (auto* form : m_forms) {
+        if (!form->Visible) continue;
+        for (auto* control : form->controls()) {
+            if (control->kind() != Kind::timer) continue;
+            auto const& timer = static_cast<Timer const&>(*control);
+            if (timer.on_tick) timer.on_tick();
+        }
+    }
+}
+
 void Screen::move_focus(Control& control) {
     if (m_focus == &control) return;
     Control* const left = std::exchange(m_focus, &control);

@@ -18,6 +18,11 @@ class Screen {
     /// Null where no window has that name.
     Form* find_form(std::string_view name) const;
 
+    /// The window that blocks the others; null for none.
+    Form* modal_form() const;
+    /// Lets the timers of the windows shown tick once.
+    void tick_timers();
+
     /// The control that has the keyboard; null before the first focus.
     Control* focus() const { return m_focus; }
     /// Moves the focus. The control that had it gets LostFocus first, at once; a field or combo

@@ -115,6 +115,12 @@ void User::set_option(OptionButton& control, bool chosen) {
     control.Value = chosen;
 }
 
+void User::set_check(CheckBox& control, int mark) {
+    require_usable(control);
+    m_screen->move_focus(control);
+    control.Value = mark;
+}
+
 void User::choose(Control& control, int entry) {
     require_usable(control);
     if (auto* const combo = dynamic_cast<Combo*>(&control)) {
@@ -156,6 +162,10 @@ void User::click(Control& control) {
     if (auto* const combo = dynamic_cast<Combo*>(&control)) {
         combo->select_all();
         return;  // Click of a combo is the choice of an entry.
+    }
+    if (auto* const box = dynamic_cast<CheckBox*>(&control)) {
+        box->Value = 1 - box->Value;  // fires Click
+        return;
     }
     if (auto* const option = dynamic_cast<OptionButton*>(&control)) {
         option->Value = true;  // fires Click where it was not chosen
@@ -219,6 +229,10 @@ void User::mouse(Control& control, std::string_view event, Mouse const& where) {
 
 void User::close(Form& form) {
     if (!form.Visible) throw Refused{form.full_name() + " n'est pas ouverte"};
+    auto const* const modal = m_screen->modal_form();
+    if (modal != nullptr && modal != &form) {
+        throw Refused{modal->full_name() + " est devant"};
+    }
     fire(form.on_close);
 }
 

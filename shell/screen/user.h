@@ -58,6 +58,7 @@ class User {
     void set_position(ScrollBar& control, int value);
     void drag(ScrollBar& control, int value);
     void set_option(OptionButton& control, bool chosen);
+    void set_check(CheckBox& control, int mark);
 
     /// Takes an entry of a combo or list by its place, from 0. Throws UnknownEntry.
     void choose(Control& control, int entry);

@@ -221,6 +221,7 @@ Json Pilot::clock(Json const& request) {
     if (!date || seconds < 0) throw UsageError{"clock : jj/mm/aaaa et hh:mm:ss"};
     m_platform.set_clock(*date, seconds);
     m_clock_set = true;
+    if (m_loaded) m_program.event([&](screen::User&) { m_program.screen.tick_timers(); });
     return ok;
 }
 
@@ -302,6 +303,12 @@ Json Pilot::set(Json const& request) {
         if (!value.is_boolean()) throw UsageError{"value : true ou false est attendu"};
         bool const chosen = value.get<bool>();
         m_program.event([&](screen::User& user) { user.set_option(*option, chosen); });
+        return ok;
+    }
+    if (auto* const box = dynamic_cast<screen::CheckBox*>(&control)) {
+        int const mark = integer_of(value, "value");
+        if (mark != 0 && mark != 1) throw UsageError{"value : 0 ou 1"};
+        m_program.event([&](screen::User& user) { user.set_check(*box, mark); });
         return ok;
     }
     auto* const entry = dynamic_cast<screen::EntryControl*>(&control);

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "core/code_page.h"
 #include "files/durable_file.h"
 #include "tools/pilote/picture_header.h"
 
@@ -59,6 +60,13 @@ Answer ScriptedPlatform::box(std::string_view title, std::string_view text,
 
 void ScriptedPlatform::open(std::string_view target) {
     m_effects.push_back({{"kind", "open"}, {"target", target}});
+}
+
+void ScriptedPlatform::view_text(std::filesystem::path const& file,
+                                 std::string const& shown_as) {
+    m_effects.push_back({{"kind", "view"},
+                         {"file", shown_as},
+                         {"text", from_code_page(read_file(file, shown_as))}});
 }
 
 PictureSize ScriptedPlatform::picture_size(std::filesystem::path const& file) {

@@ -1,0 +1,17 @@
+// The window from which an age is chosen, without scrolling.
+#pragma once
+
+namespace navarun {
+
+class Program;
+
+/// Closes the window where it is open.
+void close_age_chooser(Program& program);
+
+/// Turns to the next of the four pages of ages.
+void choix_page_age(Program& program);
+
+/// The age's label opens the window; its cells choose.
+void wire_age_chooser(Program& program);
+
+}  // namespace navarun
