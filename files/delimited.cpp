@@ -64,6 +64,10 @@ std::string DelimitedReader::read_value() {
         std::string value = m_bytes.substr(start, quote - start);
         // A quote inside a text ends it; what follows is read as the next value.
         m_at = quote + 1;
+        auto const closer = std::min(m_bytes.find_first_not_of(' ', m_at), m_bytes.size());
+        bool const closed = closer == m_bytes.size() || m_bytes[closer] == ',' ||
+                            m_bytes[closer] == '\r' || m_bytes[closer] == '\n';
+        if (closed) m_at = closer;
         close_value();
         return value;
     }

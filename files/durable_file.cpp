@@ -86,7 +86,8 @@ bool write_all(int descriptor, std::string_view bytes) {
     while (!bytes.empty()) {
         auto const written = ::write(descriptor, bytes.data(), bytes.size());
         if (written < 0 && errno == EINTR) continue;
-        if (written < 0) return false;
+        if (written == 0) errno = EIO;
+        if (written <= 0) return false;
         bytes.remove_prefix(static_cast<std::size_t>(written));
     }
     return true;
@@ -144,6 +145,11 @@ void write_file(std::filesystem::path const& path, std::string_view bytes,
     Descriptor file{open_file(unfinished_path, O_WRONLY | O_CREAT | O_TRUNC)};
     if (!file.is_open()) fail(writing, shown_as, errno);
     Unfinished unfinished{unfinished_path};
+    // Whom the old file was closed to, the new one is closed to as well.
+    struct stat old {};
+    if (::stat(path.c_str(), &old) == 0 && ::fchmod(file.number(), old.st_mode & 07777U) != 0) {
+        fail(writing, shown_as, errno);
+    }
     if (!write_all(file.number(), bytes)) fail(writing, shown_as, errno);
     if (::fsync(file.number()) != 0) fail(writing, shown_as, errno);
     if (file.close_fails()) fail(writing, shown_as, errno);

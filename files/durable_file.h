@@ -23,7 +23,7 @@ void write_file(std::filesystem::path const& path, std::string_view bytes,
                 std::string const& shown_as);
 
 /// Moves a file, replacing any file of the target's name. Throws FatalError where it cannot be
-/// moved; it then stands where it was.
+/// moved, or not with certainty; it then stands whole in one of the two places.
 void move_file(std::filesystem::path const& source, std::filesystem::path const& target,
                std::string const& shown_as);
 

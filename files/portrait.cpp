@@ -50,7 +50,10 @@ std::string free_portrait_name(Program& program, std::filesystem::path const& dr
 }
 
 void take_dropped_file(Program& program, std::filesystem::path const& dropped) {
-    if (!has_ending(dropped.filename().string(), portrait_endings)) {
+    std::error_code unreadable;
+    bool const picture = has_ending(dropped.filename().string(), portrait_endings) &&
+                         !std::filesystem::is_directory(dropped, unreadable);
+    if (!picture) {
         transient_message(program, "Ce fichier n'est pas une image !", 2);
         return;
     }

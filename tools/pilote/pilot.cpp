@@ -2,6 +2,7 @@
 #include "tools/pilote/pilot.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 #include <stdexcept>
@@ -95,7 +96,7 @@ Json parsed(std::string const& line) {
 double read_time(std::string_view text) {
     auto const digit = [&](std::size_t i) { return text[i] >= '0' && text[i] <= '9'; };
     if (text.size() != 8 || text[2] != ':' || text[5] != ':') return -1;
-    for (std::size_t const i : {0, 1, 3, 4, 6, 7}) {
+    for (std::size_t const i : std::array<std::size_t, 6>{0, 1, 3, 4, 6, 7}) {
         if (!digit(i)) return -1;
     }
     int const hours = text::number_of(text.substr(0, 2));
