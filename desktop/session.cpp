@@ -2,10 +2,12 @@
 #include "desktop/session.h"
 
 #include <QApplication>
+#include <QCryptographicHash>
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QEventLoop>
 #include <QMessageBox>
+#include <QStandardPaths>
 #include <QTimer>
 #include <QUrl>
 #include <algorithm>
@@ -16,8 +18,22 @@
 
 namespace navarun::desktop {
 
+namespace {
+
+// One for each application folder, as the lock of the instance is.
+QString private_folder(std::filesystem::path const& application_folder) {
+    auto const hash = QCryptographicHash::hash(
+        QByteArray::fromStdString(application_folder.string()), QCryptographicHash::Sha1);
+    return QStandardPaths::writableLocation(QStandardPaths::CacheLocation) +
+           QStringLiteral("/lectures-") + QString::fromLatin1(hash.toHex().left(12));
+}
+
+}  // namespace
+
 Session::Session(std::filesystem::path application_folder, std::function<void()> on_end)
-    : m_program{*this, std::move(application_folder)}, m_on_end{std::move(on_end)} {}
+    : m_program{*this, std::move(application_folder)},
+      m_text_viewer{private_folder(m_program.application_folder)},
+      m_on_end{std::move(on_end)} {}
 
 Session::~Session() = default;
 

@@ -7,20 +7,34 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QUrl>
+#include <utility>
 
 namespace navarun::desktop {
+
+TextViewer::TextViewer(QString folder) : m_folder{std::move(folder)} {
+    QDir{m_folder}.removeRecursively();
+}
+
+TextViewer::~TextViewer() { QDir{m_folder}.removeRecursively(); }
 
 bool TextViewer::is_installed() {
     return !QStandardPaths::findExecutable(QStringLiteral("xdg-open")).isEmpty();
 }
 
-void TextViewer::show(QString const& file) {
+QString TextViewer::take_over(QString const& file) {
     // A folder for each, so that the viewer's title shows the name of the file.
-    QString const folder = m_folder.filePath(QString::number(++m_shown));
+    QString const folder = m_folder + QLatin1Char('/') + QString::number(++m_taken);
     QString const copy = folder + QLatin1Char('/') + QFileInfo{file}.fileName();
-    if (QDir{}.mkpath(folder) && QFile::copy(file, copy)) {
-        QDesktopServices::openUrl(QUrl::fromLocalFile(copy));
-    }
+    bool const kept = QDir{}.mkpath(folder) &&
+                      QFile::setPermissions(
+                          m_folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner) &&
+                      QFile::copy(file, copy);
+    return kept ? copy : QString{};
+}
+
+void TextViewer::show(QString const& file) {
+    QString const copy = take_over(file);
+    if (!copy.isEmpty()) QDesktopServices::openUrl(QUrl::fromLocalFile(copy));
 }
 
 }  // namespace navarun::desktop
