@@ -303,26 +303,34 @@ class WideSwitch : public Switch {
     bool hitButton(QPoint const& where) const override { return this->rect().contains(where); }
 };
 
-class CheckView : public PlacedView<screen::CheckBox, WideSwitch<QCheckBox>> {
+// A check box or an option button.
+template <typename C, typename Toggle>
+class SwitchView : public PlacedView<C, WideSwitch<Toggle>> {
   public:
-    CheckView(Session& session, screen::CheckBox& box, QWidget& parent)
-        : PlacedView{session, box, new WideSwitch<QCheckBox>{&parent}} {
-        shown().setBackgroundRole(QPalette::Window);
-        shown().setForegroundRole(QPalette::WindowText);
-        shown().setAutoFillBackground(true);
-        tell_focus(session, box, shown());
-        QObject::connect(&shown(), &QCheckBox::clicked, &shown(), [this] {
+    SwitchView(Session& session, C& control, QWidget& parent)
+        : PlacedView<C, WideSwitch<Toggle>>{session, control, new WideSwitch<Toggle>{&parent}} {
+        auto& toggle = this->shown();
+        // The model keeps to one choice in a group.
+        toggle.setAutoExclusive(false);
+        toggle.setBackgroundRole(QPalette::Window);
+        toggle.setForegroundRole(QPalette::WindowText);
+        toggle.setAutoFillBackground(true);
+        tell_focus(session, control, toggle);
+        QObject::connect(&toggle, &Toggle::clicked, &toggle, [this] {
             this->session().act([this](screen::User& user) { user.click(this->control()); });
+            show_content();  // the toolkit may have moved the mark by itself
         });
     }
 
   protected:
     void show_content() override {
-        shown().setFont(font_of(control()));
-        shown().setText(to_qt(control().Caption.get()));
-        set_colour(shown(), QPalette::Window, to_qt(control().BackColor.get()));
-        set_colour(shown(), QPalette::WindowText, to_qt(control().ForeColor.get()));
-        shown().setChecked(control().Value == 1);
+        auto& toggle = this->shown();
+        auto const& control = this->control();
+        toggle.setFont(font_of(control));
+        toggle.setText(to_qt(control.Caption.get()));
+        set_colour(toggle, QPalette::Window, to_qt(control.BackColor.get()));
+        set_colour(toggle, QPalette::WindowText, to_qt(control.ForeColor.get()));
+        toggle.setChecked(static_cast<bool>(control.Value.get()));
     }
 };
 
@@ -350,32 +358,6 @@ class DropDownView : public PlacedView<screen::DropDown, QComboBox> {
 
   private:
     EntriesModel m_model;
-};
-
-class OptionView : public PlacedView<screen::OptionButton, WideSwitch<QRadioButton>> {
-  public:
-    OptionView(Session& session, screen::OptionButton& option, QWidget& parent)
-        : PlacedView{session, option, new WideSwitch<QRadioButton>{&parent}} {
-        // The model keeps to one choice in a group.
-        shown().setAutoExclusive(false);
-        shown().setBackgroundRole(QPalette::Window);
-        shown().setForegroundRole(QPalette::WindowText);
-        shown().setAutoFillBackground(true);
-        tell_focus(session, option, shown());
-        QObject::connect(&shown(), &QRadioButton::clicked, &shown(), [this] {
-            this->session().act([this](screen::User& user) { user.click(this->control()); });
-            show_content();  // the toolkit may have taken the mark off by itself
-        });
-    }
-
-  protected:
-    void show_content() override {
-        shown().setFont(font_of(control()));
-        shown().setText(to_qt(control().Caption.get()));
-        set_colour(shown(), QPalette::Window, to_qt(control().BackColor.get()));
-        set_colour(shown(), QPalette::WindowText, to_qt(control().ForeColor.get()));
-        shown().setChecked(control().Value);
-    }
 };
 
 }  // namespace
@@ -406,11 +388,12 @@ std::unique_ptr<ControlView> make_view(Session& session, screen::PlacedControl& 
         case screen::Kind::frame:
             return make.operator()<SurfaceView<screen::Frame>, screen::Frame>();
         case screen::Kind::check_box:
-            return make.operator()<CheckView, screen::CheckBox>();
+            return make.operator()<SwitchView<screen::CheckBox, QCheckBox>, screen::CheckBox>();
         case screen::Kind::drop_down:
             return make.operator()<DropDownView, screen::DropDown>();
         case screen::Kind::option_button:
-            return make.operator()<OptionView, screen::OptionButton>();
+            return make.
+            operator()<SwitchView<screen::OptionButton, QRadioButton>, screen::OptionButton>();
         case screen::Kind::shape:
             return make.operator()<SurfaceView<screen::Shape>, screen::Shape>();
         case screen::Kind::scroll_bar:

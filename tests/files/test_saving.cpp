@@ -189,7 +189,6 @@ TEST_P(RefusedName, EndsTheRunAndKeepsTheConsultation) {
     visit.ask({{"op", "set"}, {"control", "Text_nom"}, {"value", GetParam().last_name}});
     visit.set("Text_Note", "une note");
     std::string const shown = visit.text("Text_nom.Text");
-    if (shown == "Dupont") GTEST_SKIP() << "never reaches the field";
     std::string const first_name = visit.text("Text_prenom.Text");
 
     Json const answer = visit.fatal_click("Command_Disk_Vert");
