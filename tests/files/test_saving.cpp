@@ -159,6 +159,21 @@ TEST(Saving, NamesTypedInSmallLettersAreSavedWithTheirCapitals) {
     EXPECT_TRUE(visit.record("Dupont Marie.fcy").starts_with("\"Marie\",\"Dupont\","));
 }
 
+// The folder went away under the program: nothing can be kept there, and the report says so.
+TEST(SavingIntoNothing, AFolderThatVanishedTellsThatNothingCouldBeKept) {
+    Practice visit;
+    visit.name_person("Zoe", "Adam");
+    std::filesystem::remove_all(visit.data(1));
+    std::string const report = report_of(visit.fatal_click("Command_Disk_Vert"));
+    EXPECT_NE(report.find("L'écriture du fichier « Adam Zoe.fcy » a échoué."),
+              std::string::npos)
+        << report;
+    EXPECT_NE(report.find("La consultation à l'écran n'a pas pu être gardée"),
+              std::string::npos)
+        << report;
+    EXPECT_EQ(visit.exit_status(), 1);
+}
+
 struct RefusedCase {
     char const* name;
     char const* last_name;
