@@ -277,6 +277,13 @@ screen::Control* find_control(Program& program, std::string_view name) {
     return find_on(*form, name.substr(dot + 1));
 }
 
+std::string name_of(screen::Control const& control) {
+    auto const& form = control.form();
+    bool const on_main_window = form.name() == "Form1" || &control == &form;
+    return on_main_window ? control.full_name()
+                          : std::string{form.name()} + "." + control.full_name();
+}
+
 std::vector<NamedProperty> properties_of(screen::Control const& control) {
     struct Collector : screen::PropertyVisitor {
         std::vector<NamedProperty> found;

@@ -16,6 +16,9 @@ namespace navarun {
 /// another, a window by its own name. Null where there is none.
 screen::Control* find_control(Program& program, std::string_view name);
 
+/// The name by which find_control() finds a control.
+std::string name_of(screen::Control const& control);
+
 /// What a property or a state value holds.
 using NamedValue = std::variant<std::string, bool, int, double, screen::Colour,
                                 std::vector<std::string>, std::vector<screen::DrawnLine>>;

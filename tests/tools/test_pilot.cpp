@@ -351,5 +351,14 @@ TEST(Clock, AWrongOneLeavesTheRightOne) {
     EXPECT_EQ(visit.number("HScroll_age.Value"), 64);
 }
 
+TEST(Dump, NamesTheControlsOfAnotherWindowAsGetTakesThem) {
+    Visit visit;
+    Json const controls = visit.ask({{"op", "dump"}, {"form", "choix_age"}})["controls"];
+    ASSERT_TRUE(controls.contains("choix_age.Label2(50)"));
+    for (auto const& [name, properties] : controls.items()) {
+        EXPECT_EQ(visit.value(name + ".Visible"), properties["Visible"]) << name;
+    }
+}
+
 }  // namespace
 }  // namespace navarun::test

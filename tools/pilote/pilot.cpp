@@ -267,7 +267,7 @@ Json Pilot::dump(Json const& request) {
     if (form == nullptr) throw UnknownName{name};
     Json controls = Json::object();
     for (auto const* control : form->controls()) {
-        Json& properties = controls[control->full_name()] = Json::object();
+        Json& properties = controls[name_of(*control)] = Json::object();
         for (auto const& [property, value] : properties_of(*control)) {
             properties[property] = to_json(value);
         }
