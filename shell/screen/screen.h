@@ -39,7 +39,6 @@ class Screen {
 
     /// The controls written to since the last call, each once, in the order of the first write.
     std::vector<Control*> take_changed();
-    bool has_changed() const { return !m_changed.empty(); }
 
   private:
     friend class Form;
