@@ -13,6 +13,7 @@
 #include "desktop/entry_views.h"
 #include "desktop/label_widget.h"
 #include "desktop/list_view.h"
+#include "desktop/page_painter.h"
 #include "desktop/placed_view.h"
 
 namespace navarun::desktop {
@@ -58,6 +59,7 @@ class SurfaceWidget : public QWidget {
         bool border = false;
         std::vector<screen::DrawnLine> lines;  // the persistent ones first
         std::optional<screen::PaintedFile> file;
+        std::shared_ptr<screen::Page const> page;  // its width fills the widget
         bool operator==(Look const&) const = default;
     };
     void set_look(Look const& look) {
@@ -72,7 +74,13 @@ class SurfaceWidget : public QWidget {
         if (m_look.ground.isValid()) painter.fillRect(rect(), m_look.ground);
         QSize const size = m_look.stretched ? this->size() : picture_size();
         m_pictures.draw(painter, m_look.picture, QRectF{QPointF{0, 0}, QSizeF{size}});
-        if (m_look.file) m_pictures.draw_file(painter, *m_look.file);
+        if (m_look.file) {
+            m_pictures.draw_file(painter, *m_look.file, devicePixelRatioF());
+        }
+        if (m_look.page) {
+            paint_page(painter, m_pictures, *m_look.page, m_look.page->ratio * pixels_per_inch,
+                       PageDevice::screen);
+        }
         draw_lines(painter);
         if (m_look.border) {
             painter.setPen(QColor{0x64, 0x64, 0x64});
@@ -124,7 +132,8 @@ class SurfaceView : public PlacedView<C, SurfaceWidget> {
                 .ground = {},
                 .stretched = image.Stretched,
                 .lines = {},
-                .file = {}};
+                .file = {},
+                .page = {}};
     }
     static SurfaceWidget::Look look_of(screen::PictureBox const& box) {
         auto lines = box.lines(screen::Layer::persistent);
@@ -134,21 +143,24 @@ class SurfaceView : public PlacedView<C, SurfaceWidget> {
                 .ground = to_qt(box.BackColor.get()),
                 .border = box.Border,
                 .lines = std::move(lines),
-                .file = box.painted()};
+                .file = box.painted(),
+                .page = box.page()};
     }
     static SurfaceWidget::Look look_of(screen::Frame const& frame) {
         return {.picture = {},
                 .ground = to_qt(frame.BackColor.get()),
                 .border = true,
                 .lines = {},
-                .file = {}};
+                .file = {},
+                .page = {}};
     }
     static SurfaceWidget::Look look_of(screen::Shape const& shape) {
         return {.picture = {},
                 .ground = shape.Filled ? to_qt(shape.BackColor.get()) : QColor{},
                 .border = shape.Border,
                 .lines = {},
-                .file = {}};
+                .file = {},
+                .page = {}};
     }
 };
 

@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
+#include <algorithm>
+#include <iterator>
 
 namespace navarun::desktop {
 
@@ -44,7 +46,14 @@ void Pictures::draw(QPainter& painter, std::string const& name, QRectF const& pl
     painter.drawPixmap(place.topLeft(), pixmap(name, size, ratio));
 }
 
+void Pictures::draw_vectors(QPainter& painter, std::string const& name, QRectF const& place) {
+    if (auto* const svg = renderer(name)) svg->render(&painter, place);
+}
+
 namespace {
+
+// The portrait on the window and the same on the page.
+constexpr std::size_t files_kept = 3;
 
 // Decoded at the size at which it is shown, never larger where the format allows it. What a
 // damaged file yields is shown.
@@ -57,19 +66,21 @@ QImage decoded(QString const& path, QSize size) {
 
 }  // namespace
 
-void Pictures::draw_file(QPainter& painter, screen::PaintedFile const& file) {
-    double const ratio = painter.device()->devicePixelRatioF();
-    // A file may be replaced under its name.
+void Pictures::draw_file(QPainter& painter, screen::PaintedFile const& file, double dots) {
+    QSize const size = (QSizeF{file.width, file.height} * dots).toSize();
     QDateTime const written = QFileInfo{QString::fromStdString(file.path)}.lastModified();
-    if (m_file != file || m_file_ratio != ratio || m_file_written != written) {
-        m_file_written = written;
-        QSizeF const size = QSizeF{file.width, file.height} * ratio;
-        m_file_image = decoded(QString::fromStdString(file.path), size.toSize());
-        m_file = file;
-        m_file_ratio = ratio;
+    auto known = std::ranges::find_if(m_files, [&](DecodedFile const& decoded_file) {
+        return decoded_file.path == file.path && decoded_file.size == size &&
+               decoded_file.written == written;
+    });
+    if (known == m_files.end()) {
+        if (m_files.size() == files_kept) m_files.pop_front();
+        m_files.push_back(
+            {file.path, written, size, decoded(QString::fromStdString(file.path), size)});
+        known = std::prev(m_files.end());
     }
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(QRectF{file.x, file.y, file.width, file.height}, m_file_image);
+    painter.drawImage(QRectF{file.x, file.y, file.width, file.height}, known->image);
 }
 
 QSize Pictures::file_size(QString const& path) {

@@ -8,9 +8,9 @@
 #include <QRectF>
 #include <QSize>
 #include <QSvgRenderer>
+#include <deque>
 #include <map>
 #include <memory>
-#include <optional>
 #include <string>
 
 #include "shell/screen/control.h"
@@ -23,8 +23,11 @@ class Pictures {
     QSize natural_size(std::string const& name);
     /// Draws the picture into `place`; nothing where none has that name.
     void draw(QPainter& painter, std::string const& name, QRectF const& place);
+    /// Draws the picture in vectors, for paper.
+    void draw_vectors(QPainter& painter, std::string const& name, QRectF const& place);
     /// Draws a picture file where it is painted; nothing where it cannot be decoded.
-    void draw_file(QPainter& painter, screen::PaintedFile const& file);
+    /// @param dots  the file's pixels wanted to the painter's unit
+    void draw_file(QPainter& painter, screen::PaintedFile const& file, double dots);
     /// The size of a picture file in pixels; empty where it yields nothing to show.
     static QSize file_size(QString const& path);
     QPixmap pixmap(std::string const& name, QSize size, double device_pixel_ratio);
@@ -35,11 +38,14 @@ class Pictures {
     QSvgRenderer* renderer(std::string const& name);
 
     std::map<std::string, std::unique_ptr<QSvgRenderer>> m_renderers;
-    std::map<std::string, QPixmap> m_pixmaps;   // by name and real size
-    std::optional<screen::PaintedFile> m_file;  // the one drawn last, and how it came out
-    QDateTime m_file_written;
-    double m_file_ratio = 0;
-    QImage m_file_image;
+    std::map<std::string, QPixmap> m_pixmaps;  // by name and real size
+    struct DecodedFile {
+        std::string path;
+        QDateTime written;  // a file may be replaced under its name
+        QSize size;
+        QImage image;
+    };
+    std::deque<DecodedFile> m_files;  // those drawn last
 };
 
 }  // namespace navarun::desktop

@@ -159,6 +159,15 @@ PictureSize Session::picture_size(std::filesystem::path const& file) {
     return {size.width(), size.height()};
 }
 
+Answer Session::printer_dialog() {
+    show_changes();
+    return m_printer.choose(QApplication::activeWindow()) ? Answer::ok : Answer::cancel;
+}
+
+void Session::print(std::vector<screen::Page> const& pages) {
+    m_printer.print(pages, m_pictures);
+}
+
 bool Session::key_is_held(int code) { return m_program.user.key_held() == code; }
 
 }  // namespace navarun::desktop

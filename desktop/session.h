@@ -8,6 +8,7 @@
 
 #include "desktop/drag_mode.h"
 #include "desktop/pictures.h"
+#include "desktop/printer.h"
 #include "desktop/text_viewer.h"
 #include "shell/program.h"
 
@@ -47,6 +48,9 @@ class Session : public Platform {
     bool has_text_viewer() override;
     void view_text(std::filesystem::path const& file, std::string const& shown_as) override;
     PictureSize picture_size(std::filesystem::path const& file) override;
+    screen::PageSize printer_page() override { return m_printer.page(); }
+    Answer printer_dialog() override;
+    void print(std::vector<screen::Page> const& pages) override;
     bool key_is_held(int code) override;
 
   private:
@@ -57,6 +61,7 @@ class Session : public Platform {
     std::vector<std::unique_ptr<FormWindow>> m_windows;
     DragMode m_drag_mode{*this};
     TextViewer m_text_viewer;
+    Printer m_printer;
     QEventLoop* m_waiting = nullptr;
     std::optional<int> m_exit_status;
     std::function<void()> m_on_end;

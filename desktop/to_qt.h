@@ -12,8 +12,9 @@
 
 namespace navarun::desktop {
 
-/// Twips to the pixel.
-inline constexpr int twips_per_pixel = 15;
+using screen::twips_per_pixel;
+/// At which the window is designed.
+inline constexpr int pixels_per_inch = screen::twips_per_inch / twips_per_pixel;
 
 int to_pixels(int twips);
 QRect to_rect(screen::PlacedControl const& control);

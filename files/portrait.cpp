@@ -16,8 +16,6 @@ namespace navarun {
 
 namespace {
 
-constexpr int twips_per_pixel = 15;
-
 void back_to_ganesha(Program& program) {
     program.form1.Picture_PHOTO.Picture = picture::ganesha;
     program.consultation.fichier_photo = std::string{};
@@ -72,8 +70,8 @@ void affiche_image_ajustee(Program& program, std::string const& name) {
     auto& box = program.form1.Picture_PHOTO;
     auto const path = program.path_of(program.folders.dossier_image + name);
     PictureSize const size = program.platform.picture_size(path);
-    double const box_width = static_cast<double>(box.Width) / twips_per_pixel;
-    double const box_height = static_cast<double>(box.Height) / twips_per_pixel;
+    double const box_width = static_cast<double>(box.Width) / screen::twips_per_pixel;
+    double const box_height = static_cast<double>(box.Height) / screen::twips_per_pixel;
     auto const place = fitted(box_width, box_height, size.width, size.height);
     box.paint({.path = path.string(),
                .x = place.x,

@@ -35,13 +35,13 @@ void Mnuperiode_click(Program& program) {
 
 }  // namespace
 
-void cycle20ans(Program& program) {
+std::vector<std::string> period_lines(Program const& program) {
     auto const& consultation = program.consultation;
     auto const& birth = consultation.birth;
     auto const lord = lord_on_label(program);
     auto const date = read_date(birth.date_naissance());
-    if (!lord || !date) return;
-    program.periods.cycle_lines = cycle_lines({
+    if (!lord || !date) return {};
+    return cycle_lines({
         .first_lord = *lord,
         .birth = *date,
         .year_of_century = text::number_of(text::last(birth.date_naissance(), 2)),
@@ -50,9 +50,14 @@ void cycle20ans(Program& program) {
         .month = text::number_of(birth.mois_naissance()),
         .age_shown = consultation.age_courant,
     });
+}
+
+void cycle20ans(Program& program) {
+    auto const lines = period_lines(program);
+    if (lines.empty()) return;
     auto& list = program.affiche_cycle.List_periode;
     list.clear();
-    for (auto const& line : program.periods.cycle_lines) list.add(line);
+    for (auto const& line : lines) list.add(line);
     auto const shown = read_date(program.form1.Label_anneedefile.Caption.get());
     if (!shown) return;
     if (auto const place = line_starting_on(list.entries(), *shown)) list.ListIndex = *place;

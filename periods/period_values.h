@@ -5,7 +5,6 @@
 #include <array>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "periods/lord_circle.h"
 #include "shell/screen/colour.h"
@@ -39,9 +38,6 @@ struct PeriodValues {
     std::array<int, 2> cellules_tridevas{};
     int nombre_tridevas = 0;
     std::string_view genre_trideva;
-
-    // The lines of the cycle list as last made.
-    std::vector<std::string> cycle_lines;
 
     // The grid reduced to the selected cells.
     bool cycle_partiel_actif = false;

@@ -83,6 +83,7 @@ struct Source {
     Consultation const& person = program.consultation;
     BirthDate const& birth = person.birth;
     PeriodValues const& periods = program.periods;
+    PrintValues const& printing = program.printing;
 };
 
 struct StateRow {
@@ -235,6 +236,27 @@ StateRow const state_rows[] = {
     {"couleur_fleche", [](Source const& s) { return s.program.arrow.couleur_fleche; }},
     {"epaisseur_fleche", [](Source const& s) { return s.program.arrow.epaisseur_fleche; }},
     {"style_fleche", [](Source const& s) { return s.program.arrow.style_fleche; }},
+    {"imprime_photo", [](Source const& s) { return s.printing.imprime_photo; }},
+    {"imprime_note", [](Source const& s) { return s.printing.imprime_note; }},
+    {"imprime_periode", [](Source const& s) { return s.printing.imprime_periode; }},
+    {"imprime_palais_destin",
+     [](Source const& s) { return s.printing.imprime_palais_destin; }},
+    {"imprime_mahadasha", [](Source const& s) { return s.printing.imprime_mahadasha; }},
+    {"imprime_seigneur_mois",
+     [](Source const& s) { return s.printing.imprime_seigneur_mois; }},
+    {"imprime_tri_deva", [](Source const& s) { return s.printing.imprime_tri_deva; }},
+    // Lines 0 to 34, as the page takes them from the list without its first.
+    {"periodes_impression",
+     [](Source const& s) { return at(s.printing.periodes_impression, s.i); },
+     {0, 34}},
+    {"lignes_note",
+     [](Source const& s) {
+         auto const& lines = s.printing.notes.lignes_note;
+         auto const place = static_cast<std::size_t>(s.i - 1);
+         return place < lines.size() ? lines[place] : std::string{};
+     },
+     {1, 10}},
+    {"nombre_lignes", [](Source const& s) { return s.printing.notes.nombre_lignes; }},
     {"titre_dialogue", [](Source const& s) { return s.program.dialogue.titre_dialogue; }},
     {"texte_dialogue", [](Source const& s) { return s.program.dialogue.texte_dialogue; }},
     {"reponse_dialogue", [](Source const& s) { return s.program.dialogue.reponse_dialogue; }},

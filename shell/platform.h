@@ -7,9 +7,11 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/calendar.h"
 #include "core/fatal_error.h"
+#include "shell/screen/page.h"
 
 namespace navarun {
 
@@ -55,6 +57,15 @@ class Platform {
     /// The size of a picture file in pixels, once it is known that the file can be shown.
     /// Throws FatalError where it cannot.
     virtual PictureSize picture_size(std::filesystem::path const& file) = 0;
+
+    /// The paper of the printer, in inches: of the one chosen in the printer dialog, before that
+    /// of the desktop's own choice. A4 where there is none.
+    virtual screen::PageSize printer_page() = 0;
+    /// Lets the user choose the printer of the next document, or give it up.
+    virtual Answer printer_dialog() = 0;
+    /// Prints the pages as one document on the printer chosen last. Whether that succeeds is
+    /// not told.
+    virtual void print(std::vector<screen::Page> const& pages) = 0;
 
     /// Whether the user holds the key of that code down at this moment.
     virtual bool key_is_held(int code) = 0;

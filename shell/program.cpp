@@ -21,6 +21,10 @@
 #include "periods/cycle_window.h"
 #include "periods/partial_cycle.h"
 #include "periods/year_month_lords.h"
+#include "print/lords_listing.h"
+#include "print/options.h"
+#include "print/preview.h"
+#include "print/report.h"
 #include "readings/calendar_window.h"
 #include "readings/destiny_palace.h"
 #include "readings/lords_window.h"
@@ -56,6 +60,10 @@ Program::Program(Platform& platform_, std::filesystem::path application_folder_)
     wire_kundali(*this);
     wire_palace_colours(*this);
     wire_arrow_dialog(*this);
+    wire_report(*this);
+    wire_preview(*this);
+    wire_print_options(*this);
+    wire_lords_listing(*this);
 }
 
 void Program::start() {

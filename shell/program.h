@@ -17,9 +17,11 @@
 #include "files/folders.h"
 #include "files/records.h"
 #include "periods/period_values.h"
+#include "print/print_values.h"
 #include "readings/calendar_values.h"
 #include "shell/fleche.h"
 #include "shell/form1.h"
+#include "shell/option_impression.h"
 #include "shell/platform.h"
 #include "shell/screen/screen.h"
 #include "shell/screen/user.h"
@@ -104,6 +106,7 @@ class Program {
     navarun::FrmSeigneurJour frm_seigneur_jour{screen};
     navarun::Palais_du_destin palais_du_destin{screen};
     navarun::FrmCalend frm_calend{screen};
+    navarun::Option_impression option_impression{screen};
 
     Consultation consultation;
     PeriodValues periods;
@@ -117,6 +120,7 @@ class Program {
     CalendarValues calendar;
     SchemeColours scheme_colours;
     ArrowValues arrow;
+    PrintValues printing;
     FolderLock instance;
     std::array<std::string, 10> url_defaut;
 

@@ -220,6 +220,11 @@ void DropDown::visit(PropertyVisitor& visitor) const {
     visitor.property("Text", std::string_view{text});
 }
 
+void CheckValue::preset(int value) {
+    m_value = value;
+    detail::mark_changed(*m_owner);
+}
+
 CheckValue& CheckValue::operator=(int value) {
     int const mark = value != 0 ? 1 : 0;
     if (m_value == mark) return *this;
@@ -362,6 +367,17 @@ void PictureBox::clear_rubber() {
     detail::mark_changed(*this);
 }
 
+void PictureBox::show_page(Page page) {
+    m_page = std::make_shared<Page const>(std::move(page));
+    detail::mark_changed(*this);
+    if (on_page) on_page(*m_page);
+}
+
+void PictureBox::clear_page() {
+    m_page.reset();
+    detail::mark_changed(*this);
+}
+
 void PictureBox::visit(PropertyVisitor& visitor) const {
     PlacedControl::visit(visitor);
     visitor.property("Picture", &Picture.get());
@@ -474,10 +490,15 @@ void Form::open() {
     Visible = true;
 }
 
-void Form::hide() { Visible = false; }
+void Form::hide() {
+    Visible = false;
+    // Nothing in a window that is gone has the keyboard.
+    auto* const focused = m_screen->focus();
+    if (focused != nullptr && &focused->form() == this) m_screen->drop_focus();
+}
 
 void Form::unload() {
-    Visible = false;
+    hide();
     m_loaded = false;
 }
 

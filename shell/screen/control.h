@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "shell/screen/colour.h"
+#include "shell/screen/page.h"
 #include "shell/screen/picture.h"
 #include "shell/screen/property.h"
 
@@ -151,6 +152,7 @@ class Control {
     std::function<void()> on_double_click;
     std::function<void()> on_change;
     std::function<void()> on_scroll;
+    std::function<void()> on_got_focus;
     std::function<void()> on_lost_focus;
     std::function<void()> on_close;
     /// The character typed; answers true where the key is swallowed.
@@ -383,6 +385,8 @@ class CheckValue {
     int get() const { return m_value; }
     operator int() const { return m_value; }
     CheckValue& operator=(int value);
+    /// As the window is designed to open: fires nothing.
+    void preset(int value);
 
   private:
     CheckBox* m_owner;
@@ -478,6 +482,12 @@ class PictureBox : public PlacedControl {
     std::vector<DrawnLine> const& lines(Layer layer) const;
     void draw(Layer layer, DrawnLine const& line);
     void clear_rubber();
+    /// Shows a page, its width filling that of the box; null is none.
+    void show_page(Page page);
+    void clear_page();
+    std::shared_ptr<Page const> const& page() const { return m_page; }
+    /// Told of each page shown, for whoever keeps a record.
+    std::function<void(Page const&)> on_page;
     /// The width of the lines to come, in pixels.
     int draw_width() const { return m_draw_width; }
     void set_draw_width(int pixels) { m_draw_width = pixels; }
@@ -487,6 +497,7 @@ class PictureBox : public PlacedControl {
     std::vector<DrawnLine> m_persistent;
     std::vector<DrawnLine> m_rubber;
     std::optional<PaintedFile> m_painted;
+    std::shared_ptr<Page const> m_page;
     int m_draw_width = 1;
 };
 

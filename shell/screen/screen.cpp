@@ -42,6 +42,7 @@ void Screen::move_focus(Control& control) {
         static_cast<EntryControl&>(control).select_all();
     }
     detail::mark_changed(control);
+    if (control.on_got_focus) control.on_got_focus();
 }
 
 void Screen::begin_drag(Control& carrier) {

@@ -26,9 +26,11 @@ class Screen {
     /// The control that has the keyboard; null before the first focus.
     Control* focus() const { return m_focus; }
     /// Moves the focus. The control that had it gets LostFocus first, at once; a field or combo
-    /// that gets it has its whole text selected. Nothing happens where it already is there.
-    /// REQUIRES control.takes_focus().
+    /// that gets it has its whole text selected; then it gets GotFocus. Nothing happens where
+    /// it already is there. REQUIRES control.takes_focus().
     void move_focus(Control& control);
+    /// No control has the focus any more; nothing fires.
+    void drop_focus() { m_focus = nullptr; }
 
     /// Begins to drag what `carrier` stands for. It ends with a drop, or with anything else
     /// that the user does.

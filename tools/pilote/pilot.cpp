@@ -145,6 +145,9 @@ std::vector<Pilot::Operation> const& Pilot::operations() {
 Pilot::Pilot(std::filesystem::path application_folder)
     : m_program{m_platform, std::move(application_folder)} {
     m_platform.set_user(m_program.user);
+    m_program.form1.Picture2.on_page = [this](screen::Page const& page) {
+        m_platform.record_page("preview", page);
+    };
     m_platform.set_during_wait([this] { run_requests_during_wait(); });
 }
 
@@ -277,7 +280,7 @@ Json Pilot::dump(Json const& request) {
 
 Json Pilot::effects(Json const&) { return {{"effects", m_platform.take_effects()}}; }
 
-Json Pilot::pages(Json const&) { return {{"pages", Json::array()}}; }
+Json Pilot::pages(Json const&) { return {{"pages", m_platform.take_pages()}}; }
 
 Json Pilot::focus(Json const& request) {
     auto& control = control_of(request);

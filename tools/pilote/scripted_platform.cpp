@@ -6,6 +6,7 @@
 
 #include "core/code_page.h"
 #include "files/durable_file.h"
+#include "tools/pilote/page_json.h"
 #include "tools/pilote/picture_header.h"
 
 namespace navarun::pilot {
@@ -46,16 +47,34 @@ void ScriptedPlatform::wait(double seconds, std::string_view shown_message) {
 
 Answer ScriptedPlatform::box(std::string_view title, std::string_view text,
                              BoxButtons buttons) {
-    Answer answer = Answer::ok;
-    if (buttons == BoxButtons::ok_cancel && !m_answers.empty()) {
-        answer = m_answers.front();
-        m_answers.pop_front();
-    }
+    Answer const answer = buttons == BoxButtons::ok_cancel ? next_answer() : Answer::ok;
     m_effects.push_back({{"kind", "box"},
                          {"title", title},
                          {"text", text},
                          {"answer", static_cast<int>(answer)}});
     return answer;
+}
+
+Answer ScriptedPlatform::next_answer() {
+    if (m_answers.empty()) return Answer::ok;
+    Answer const answer = m_answers.front();
+    m_answers.pop_front();
+    return answer;
+}
+
+Answer ScriptedPlatform::printer_dialog() {
+    Answer const answer = next_answer();
+    m_effects.push_back({{"kind", "printer-dialog"}, {"answer", static_cast<int>(answer)}});
+    return answer;
+}
+
+void ScriptedPlatform::print(std::vector<screen::Page> const& pages) {
+    for (auto const& page : pages) record_page("printer", page);
+    m_effects.push_back({{"kind", "document"}});
+}
+
+void ScriptedPlatform::record_page(std::string_view target, screen::Page const& page) {
+    m_pages.push_back(page_as_json(target, page));
 }
 
 void ScriptedPlatform::open(std::string_view target) {
@@ -82,6 +101,8 @@ PictureSize ScriptedPlatform::picture_size(std::filesystem::path const& file) {
 bool ScriptedPlatform::key_is_held(int code) {
     return m_user != nullptr && m_user->key_held() == code;
 }
+
+Json ScriptedPlatform::take_pages() { return std::exchange(m_pages, Json::array()); }
 
 Json ScriptedPlatform::take_effects() { return std::exchange(m_effects, Json::array()); }
 

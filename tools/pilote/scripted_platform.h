@@ -24,11 +24,14 @@ class ScriptedPlatform : public Platform {
     bool has_text_viewer() override { return true; }
     void view_text(std::filesystem::path const& file, std::string const& shown_as) override;
     PictureSize picture_size(std::filesystem::path const& file) override;
+    screen::PageSize printer_page() override { return screen::a4; }
+    Answer printer_dialog() override;
+    void print(std::vector<screen::Page> const& pages) override;
     bool key_is_held(int code) override;
 
     /// @param seconds  since midnight, 0 to below 86400
     void set_clock(Date today, double seconds);
-    /// The answer of the next question box; OK where none is queued.
+    /// The answer of the next question box or printer dialog; OK where none is queued.
     void queue_answer(Answer answer) { m_answers.push_back(answer); }
     /// What runs inside each wait, before the clock moves on.
     void set_during_wait(std::function<void()> run) { m_during_wait = std::move(run); }
@@ -37,14 +40,21 @@ class ScriptedPlatform : public Platform {
 
     /// The effects since the last call, in order.
     Json take_effects();
+    /// Keeps a page for take_pages().
+    void record_page(std::string_view target, screen::Page const& page);
+    /// The pages drawn since the last call, in order.
+    Json take_pages();
 
   private:
+    Answer next_answer();
+
     Date m_today{};
     double m_seconds = 0;
     std::deque<Answer> m_answers;
     std::function<void()> m_during_wait;
     screen::User const* m_user = nullptr;
     Json m_effects = Json::array();
+    Json m_pages = Json::array();
 };
 
 }  // namespace navarun::pilot

@@ -1,0 +1,126 @@
+// The operations of a page in the toolkit's.
+#include "desktop/page_painter.h"
+
+#include <QFontMetricsF>
+#include <algorithm>
+
+#include "desktop/to_qt.h"
+
+namespace navarun::desktop {
+
+namespace {
+
+constexpr double points_per_inch = 72;
+// A fine line that every printer holds; on a screen a pixel at least.
+constexpr double stroke_inches = 0.01;
+// Enough for a portrait of its size on paper.
+constexpr double picture_dots_per_inch = 600;
+
+class OperationPainter {
+  public:
+    OperationPainter(QPainter& painter, Pictures& pictures, screen::Page const& page,
+                     double inch, PageDevice device)
+        : m_painter{painter},
+          m_pictures{pictures},
+          m_ratio{page.ratio},
+          m_scale{inch},
+          m_device{device} {}
+
+    void operator()(screen::PageStroke const& stroke) const {
+        double const width = stroke_inches * m_scale;
+        m_painter.setPen(QPen{Qt::black,
+                              m_device == PageDevice::screen ? std::max(width, 1.0) : width,
+                              Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin});
+        m_painter.setBrush(Qt::NoBrush);
+        m_painter.setRenderHint(QPainter::Antialiasing, m_device == PageDevice::paper);
+        QPointF const from = place(stroke.x1, stroke.y1);
+        QPointF const to = place(stroke.x2, stroke.y2);
+        if (stroke.shape == screen::PageStroke::Shape::box) {
+            m_painter.drawRect(QRectF{from, to});
+        } else {
+            m_painter.drawLine(from, to);
+        }
+    }
+
+    void operator()(screen::PagePicture const& picture) const {
+        if (picture.file) {
+            auto const& file = *picture.file;
+            m_pictures.draw_file(m_painter,
+                                 {.path = file.path,
+                                  .x = file.x * m_scale,
+                                  .y = file.y * m_scale,
+                                  .width = file.size.width * m_scale,
+                                  .height = file.size.height * m_scale},
+                                 pixels_of_file());
+            return;
+        }
+        QRectF const where{place(picture.x, picture.y),
+                           QSizeF{picture.size.width, picture.size.height} * m_scale};
+        if (m_device == PageDevice::paper) {
+            m_pictures.draw_vectors(m_painter, picture.picture.name(), where);
+        } else {
+            // On whole pixels: sharp.
+            m_pictures.draw(m_painter, picture.picture.name(), where.toAlignedRect());
+        }
+    }
+
+    void operator()(screen::PageText const& text) const {
+        QFont const font = page_font(text, m_ratio);
+        QFontMetricsF const metrics{font};
+        m_painter.save();
+        m_painter.translate(place(text.x, text.y));
+        m_painter.scale(m_scale / page_text_units, m_scale / page_text_units);
+        m_painter.setFont(font);
+        m_painter.setPen(to_qt(text.colour));
+        m_painter.setRenderHint(QPainter::TextAntialiasing);
+        double baseline = metrics.ascent();
+        for (QString const& line : to_qt(text.text).split(QLatin1Char('\n'))) {
+            draw_line(line, baseline);
+            baseline += metrics.lineSpacing();
+        }
+        m_painter.restore();
+    }
+
+  private:
+    QPointF place(double x, double y) const { return {x * m_scale, y * m_scale}; }
+
+    double pixels_of_file() const {
+        return m_device == PageDevice::paper ? picture_dots_per_inch / m_scale
+                                             : m_painter.device()->devicePixelRatioF();
+    }
+
+    void draw_line(QString const& line, double baseline) const {
+        double x = 0;
+        double stop = screen::first_tab_stop;
+        for (QString const& part : line.split(QLatin1Char('\t'))) {
+            if (!part.isEmpty()) m_painter.drawText(QPointF{x, baseline}, part);
+            x = stop * page_text_units;
+            stop += screen::tab_step;
+        }
+    }
+
+    QPainter& m_painter;
+    Pictures& m_pictures;
+    double m_ratio;
+    double m_scale;
+    PageDevice m_device;
+};
+
+}  // namespace
+
+QFont page_font(screen::PageText const& text, double ratio) {
+    QFont font{to_qt(text.font)};
+    font.setPixelSize(
+        std::max(1, qRound(text.size / ratio / points_per_inch * page_text_units)));
+    font.setBold(text.bold);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+void paint_page(QPainter& painter, Pictures& pictures, screen::Page const& page, double inch,
+                PageDevice device) {
+    OperationPainter const paint{painter, pictures, page, inch, device};
+    for (auto const& operation : page.operations) std::visit(paint, operation);
+}
+
+}  // namespace navarun::desktop

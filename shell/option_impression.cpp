@@ -1,0 +1,115 @@
+// The design of the print options. The window opens left of the preview, so that the page stays
+// in sight.
+#include "shell/option_impression.h"
+
+#include "periods/lord_circle.h"
+
+namespace navarun {
+
+namespace {
+
+using screen::Alignment;
+using screen::Colour;
+using screen::Design;
+using screen::Font;
+using screen::Place;
+
+constexpr Colour azure_small_window{0xB4CEFC};
+constexpr Colour title_band{0x2C8EDC};
+constexpr Colour span_blue{0x0000C0};
+constexpr Colour age_green{0xC0FFC0};
+
+constexpr Font arial{.name = "Arial", .size = 12};
+constexpr Font arial_bold{.name = "Arial", .size = 12, .bold = true};
+constexpr Font narrow{.name = "Arial Narrow", .size = 12};
+constexpr Font box_font{.name = "Arial Narrow", .size = 11.25};
+
+Design age_design(int index) {
+    switch (index) {
+        case 0:
+            return {.place = {240, 540, 855, 255},
+                    .font = arial,
+                    .fore = span_blue,
+                    .align = Alignment::centre};
+        case 1:
+            return {.place = {2280, 540, 975, 255},
+                    .font = arial,
+                    .fore = span_blue,
+                    .align = Alignment::centre};
+        default:
+            return {.place = {1540, 540, 380, 255},
+                    .font = arial_bold,
+                    .back = age_green,
+                    .opaque = true,
+                    .align = Alignment::centre,
+                    .tooltip = "Rouge indique en dehors de l'âge."};
+    }
+}
+
+Design date_design(int index) {
+    return {.place = {index == 0 ? 120 : 2280, 840, 975, 255}, .font = narrow};
+}
+
+Design box_design(int left, int top, std::string_view text, std::string_view tooltip) {
+    return {.place = {left, top, 1080, 330},
+            .text = text,
+            .font = box_font,
+            .back = azure_small_window,
+            .tooltip = tooltip};
+}
+
+}  // namespace
+
+Option_impression::Option_impression(screen::Screen& screen_)
+    : Form{screen_,
+           "Option_impression",
+           {.place = {3480, 2400, 3375, 3240},
+            .text = "Option Impression",
+            .back = azure_small_window,
+            .visible = false}},
+      Label_option_impression{*this,
+                              "Label_option_impression",
+                              {.place = {0, 0, 3375, 495},
+                               .text = "Option d'impression",
+                               .font = {.name = "MS Sans Serif", .size = 13.5},
+                               .fore = screen::white,
+                               .back = title_band,
+                               .opaque = true,
+                               .border = true,
+                               .align = Alignment::centre}},
+      Label_age{*this, "Label_age", {0, 1, 2}, age_design},
+      Label_afficheAnnee{*this, "Label_afficheAnnee", {0, 1}, date_design},
+      Btn_remise1{*this,
+                  "Btn_remise1",
+                  {.place = {240, 1200, 200, 280},
+                   .tooltip = "Revient à l'âge.",
+                   .picture = screen::Picture{"Option_impression.Btn_remise1"}}},
+      HScroll_annee{*this,
+                    "HScroll_annee",
+                    {.place = {480, 1200, 2520, 280}, .minimum = 1, .maximum = greatest_age}},
+      Check_Mahadasha{*this, "Check_Mahadasha",
+                      box_design(0, 1680, "G.Cycle", "Imprimez le Grand Cycle.")},
+      Check_PhotoImprime{*this, "Check_PhotoImprime",
+                         box_design(1080, 1680, "Photo", "Imprimez la photo.")},
+      Check_periode{*this, "Check_periode",
+                    box_design(2040, 1680, "Période", "Imprimez les périodes.")},
+      // The missing letter is the window's own.
+      Check_SeigneurMois{*this, "Check_SeigneurMois",
+                         box_design(0, 2040, "S.Mois", "Imprimez le Ségneur du Mois.")},
+      Check_noteImprime{*this, "Check_noteImprime",
+                        box_design(1080, 2040, "Note", "Imprimez vos notes.")},
+      Check_palaisDestin{
+          *this, "Check_palaisDestin",
+          box_design(2040, 2040, "P. du destin", "Imprimez le palais du destin.")},
+      Image_Impression{*this,
+                       "Image_Impression",
+                       {.place = {1447, 2520, 480, 480},
+                        .picture = screen::Picture{"Option_impression.Image_Impression"},
+                        .stretched = true}} {
+    for (auto* box : {&Check_Mahadasha, &Check_PhotoImprime, &Check_periode,
+                      &Check_SeigneurMois, &Check_noteImprime, &Check_palaisDestin}) {
+        box->Value.preset(1);
+    }
+}
+
+}  // namespace navarun
