@@ -129,11 +129,17 @@ class Desk:
                               timeout=PATIENCE).stdout
 
     def window(self, title):
-        """The visible window whose title is `title` wholly; waits for it."""
+        """The visible window whose title is `title` wholly, once it takes what is typed."""
         pattern = "^" + title.replace(".", r"\.") + "$"
-        return wait_until(
+        window = wait_until(
             lambda: self._tool("xdotool", "search", "--onlyvisible", "--name", pattern).split(),
             f"the window « {title} »")[0]
+
+        def active():
+            self._tool("xdotool", "windowactivate", window)
+            return self._tool("xdotool", "getactivewindow").strip() == window
+        wait_until(active, f"the window « {title} » to become the active one")
+        return window
 
     def process_of(self, window):
         """The id of the process that shows `window`."""
@@ -156,7 +162,6 @@ class Desk:
         """Closes the program's `window` as its frame does, says yes to its question and waits until
         its process has ended by itself."""
         process = self.process_of(window)
-        self._tool("xdotool", "windowactivate", "--sync", window)
         self.key("alt+F4")
         self.answer_yes("QUITTER")
 
@@ -167,6 +172,5 @@ class Desk:
 
     def answer_yes(self, title):
         """Says yes to the question whose window bears `title`."""
-        question = self.window(title)
-        self._tool("xdotool", "windowactivate", "--sync", question)
+        self.window(title)
         self.key("Return")

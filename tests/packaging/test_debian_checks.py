@@ -12,6 +12,7 @@ from pathlib import Path
 
 PACKAGES = Path(sys.argv.pop(1))
 VERSION = sys.argv.pop(1)
+DOCUMENTS_ARE_MADE = sys.argv.pop(1) == "1"
 [PACKAGE] = PACKAGES.glob("*.deb")
 DESKTOP_ID = "fr.navarun.Navarun"
 
@@ -69,6 +70,17 @@ class DebianPackage(unittest.TestCase):
         needed = {"libqt6widgets6", "libqt6svg6", "libc6", "qt6-qpa-plugins",
                   "qt6-translations-l10n", "fonts-liberation", "xdg-utils"}
         self.assertEqual(needed - asked, set())
+
+    @unittest.skipUnless(DOCUMENTS_ARE_MADE, "this build makes no documents")
+    def test_both_packages_bring_the_documents(self):
+        names = {"AIDE NAVARUN.pdf", "CELEBRITES.pdf"}
+        delivered = self.tree / "usr/lib/navarun/RESSOURCES/DOCS"
+        self.assertEqual({path.name for path in delivered.iterdir()}, names)
+        for name in names:
+            self.assertEqual((delivered / name).read_bytes()[:5], b"%PDF-")
+        portable = set(output_of("tar", "-tzf", PACKAGES / f"navarun-{VERSION}.tar.gz").splitlines())
+        self.assertEqual({f"navarun-{VERSION}/RESSOURCES/DOCS/{name}" for name in names} - portable,
+                         set())
 
     def test_the_binary_carries_no_symbols_and_no_path_of_the_builder(self):
         program = self.tree / "usr/lib/navarun/navarun"

@@ -128,4 +128,5 @@ if __name__ == "__main__":
     turn = take_turn()
     if is_known_to_dpkg():
         skip_test_program("navarun is installed on this machine; its owner's package stays.")
-    unittest.main()
+    with turn:
+        unittest.main()
