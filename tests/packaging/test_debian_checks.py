@@ -88,6 +88,8 @@ class DebianPackage(unittest.TestCase):
         for section in (".symtab", ".debug_info"):
             self.assertNotIn(section, sections)
         self.assertNotRegex(output_of("objdump", "--private-headers", program), "R(UN)?PATH")
+        sources = Path(__file__).resolve().parents[2]
+        self.assertNotIn(bytes(sources), program.read_bytes())
 
     def test_every_icon_has_the_size_of_its_folder(self):
         icons = self.tree / "usr/share/icons/hicolor"
