@@ -15,6 +15,8 @@ void set_up(QApplication& application) {
     QApplication::setApplicationName(QStringLiteral("N.A.V.A.R.U.N"));
     QApplication::setApplicationVersion(QStringLiteral(NAVARUN_VERSION));
     QApplication::setWindowIcon(QIcon{QStringLiteral(":/pictures/navarun.svg")});
+    // Under this name the desktop knows the program's entry in its menus.
+    QApplication::setDesktopFileName(QStringLiteral("fr.navarun.Navarun"));
     QApplication::setStyle(new CompactStyle);
 
     // The toolkit's own words are French whatever the locale.

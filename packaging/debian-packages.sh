@@ -1,5 +1,5 @@
 # The Debian packages that the house needs, and how to install those that are missing.
-# Sourced by ./run and ./test.
+# Sourced by ./run, ./test and packaging/package.
 
 build_packages=(
     g++ cmake ninja-build ccache
@@ -10,12 +10,16 @@ run_packages=(
     qt6-qpa-plugins qt6-translations-l10n
     fonts-liberation xdg-utils
 )
+package_packages=(
+    dpkg-dev file librsvg2-bin
+)
 virtual_display_packages=(
     xvfb xdotool imagemagick
 )
 test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
-    xvfb xdotool imagemagick openbox
+    xvfb xdotool imagemagick openbox x11-utils
+    python3 lintian desktop-file-utils appstream groff libgtk-3-bin
 )
 
 long_test_packages=(
