@@ -75,7 +75,7 @@ class OperationPainter {
         m_painter.setRenderHint(QPainter::TextAntialiasing);
         double baseline = metrics.ascent();
         for (QString const& line : to_qt(text.text).split(QLatin1Char('\n'))) {
-            draw_line(line, baseline);
+            draw_line(line, baseline, (text.right_edge - text.x) * page_text_units);
             baseline += metrics.lineSpacing();
         }
         m_painter.restore();
@@ -89,7 +89,11 @@ class OperationPainter {
                                              : m_painter.device()->devicePixelRatioF();
     }
 
-    void draw_line(QString const& line, double baseline) const {
+    // @param room  in units of the text; not above 0 for as much as it takes
+    void draw_line(QString const& line, double baseline, double room) const {
+        double const width = QFontMetricsF{m_painter.font()}.horizontalAdvance(line);
+        m_painter.save();
+        if (room > 0 && width > room) m_painter.scale(room / width, 1);
         double x = 0;
         double stop = screen::first_tab_stop;
         for (QString const& part : line.split(QLatin1Char('\t'))) {
@@ -97,6 +101,7 @@ class OperationPainter {
             x = stop * page_text_units;
             stop += screen::tab_step;
         }
+        m_painter.restore();
     }
 
     QPainter& m_painter;

@@ -28,6 +28,7 @@ void DrawingSurface::Print(std::string text) {
         .size = FontSize * m_page.ratio,
         .bold = FontBold,
         .colour = ForeColor,
+        .right_edge = right_edge,
     });
 }
 

@@ -21,6 +21,8 @@ class DrawingSurface {
     double FontSize = 10;  // points on paper
     bool FontBold = false;
     screen::Colour ForeColor = screen::black;
+    /// What is printed stays left of it, drawn narrower where it must; 0 for no edge.
+    double right_edge = 0;
     double CurrentX = 0;
     double CurrentY = 0;
 

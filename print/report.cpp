@@ -24,6 +24,15 @@ constexpr std::string_view arial = "Arial";
 constexpr std::string_view arial_narrow = "Arial Narrow";
 constexpr screen::Colour date_grey{0x606060};
 
+// What texts stay left of, whatever the length of a name.
+constexpr double frame_right = 7.78;
+constexpr double identity_right = 6.85;
+constexpr double lord_of_year_right = 2.03;
+constexpr double year_right = 4.55;
+constexpr double age_right = 6.23;
+constexpr double gate_right = 7.58;
+constexpr double gate_number = 7.3;
+
 constexpr int note_lines = 10;
 constexpr int note_line_characters = 101;
 
@@ -45,6 +54,7 @@ void outlines(DrawingSurface& page) {
 }
 
 void title(Program const& program, DrawingSurface& page) {
+    page.right_edge = frame_right;
     set_font(page, arial, 17);
     page.Print(2.3, 0.4, std::string{page_title});
     set_font(page, arial, 9);
@@ -118,12 +128,15 @@ std::optional<std::string> year_line(Form1 const& form) {
 bool identity(Program const& program, DrawingSurface& page) {
     auto const& form = program.form1;
     int const age = program.consultation.age_courant;
+    page.right_edge = identity_right;
     set_font(page, arial, 16);
     page.Print(0.5, 0.96, form.Text_prenom.Text.get() + "  " + form.Text_nom.Text.get());
     page.Box(0.43, 0.93, 6.89, 1.25);
     page.Box(0.43, 1.28, 6.89, 2.07);
     page.FontSize = 14;
+    page.right_edge = age_right;
     page.Print(5.2, 2.32, std::to_string(age) + (age == 1 ? " an" : " ans"));
+    page.right_edge = identity_right;
     set_font(page, arial, 14);
     if (form.Mnu_Julien.Checked) {
         page.PaintPicture({.picture = form.Image_cal_Julien.Picture.get(),
@@ -140,6 +153,7 @@ bool identity(Program const& program, DrawingSurface& page) {
     page.Print(0.5, 1.79, *cycle);
     auto const year = year_line(form);
     if (!year) return false;
+    page.right_edge = year_right;
     page.Print(2.29, 2.32, *year);
     return true;
 }
@@ -181,6 +195,7 @@ void notes(Program& program, DrawingSurface& page) {
     auto& cut = program.printing.notes;
     ligne_charactere(program.form1.Text_Note.Text.get(), note_lines, note_line_characters, cut);
     set_font(page, arial_narrow, 14);
+    page.right_edge = frame_right;
     double y = 8.99;
     for (auto const& line : cut.lignes_note) {
         page.Print(0.5, y, text::Replace_Char(line, text::line_break, " "));
@@ -191,6 +206,7 @@ void notes(Program& program, DrawingSurface& page) {
 void periods(Program const& program, DrawingSurface& page) {
     page.ForeColor = screen::black;
     set_font(page, arial_narrow, 10);
+    page.right_edge = frame_right;
     double y = 2.3;
     for (auto const& line : program.printing.periodes_impression) {
         page.Print(6.35, y, line);
@@ -204,15 +220,19 @@ void destiny_palace(Program& program, DrawingSurface& page) {
     auto const& facts = program.palais_du_destin.Label_Palais_du_destin;
     stretched(page, "Image_PalaisDestin_NB", 6.285, 7.713, {1.535, 1.2});
     page.Box(6.3, 7.73, 7.8, 8.9);
+    page.right_edge = gate_right;
     page.Print(6.84, 8.09, facts(1).Caption.get());
     page.Print(6.84, 8.37, facts(2).Caption.get());
+    page.right_edge = gate_number;
     page.Print(6.84, 8.66, facts(3).Caption.get());
     page.FontSize = 14;
-    page.Print(7.3, 8.66, facts(0).Caption.get());
+    page.right_edge = gate_right;
+    page.Print(gate_number, 8.66, facts(0).Caption.get());
 }
 
 void palace_numbers(Form1 const& form, DrawingSurface& page) {
     page.FontSize = 11;
+    page.right_edge = 0;
     for (int n = 0; n < 12; ++n) {
         int const cell = n == 0 ? 12 : n;
         auto const& place = of_cell(palace_places, cell);
@@ -303,6 +323,7 @@ std::optional<screen::Page> PrintRoutine(Program& program, double ratio) {
     tri_deva_marks(program, page);
     if (printing.imprime_note) notes(program, page);
     page.FontName = arial;
+    page.right_edge = lord_of_year_right;
     page.Print(0.8, 2.32, std::string{program.name_of_lord(program.consultation.seigneur_an)});
     if (printing.imprime_periode) periods(program, page);
     if (printing.imprime_palais_destin) destiny_palace(program, page);

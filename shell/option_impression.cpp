@@ -50,8 +50,10 @@ Design date_design(int index) {
     return {.place = {index == 0 ? 120 : 2280, 840, 975, 255}, .font = narrow};
 }
 
+// Three columns; the last takes the longest text.
 Design box_design(int left, int top, std::string_view text, std::string_view tooltip) {
-    return {.place = {left, top, 1080, 330},
+    int const width = left == 2040 ? 1320 : 1020;
+    return {.place = {left, top, width, 330},
             .text = text,
             .font = box_font,
             .back = azure_small_window,

@@ -65,6 +65,8 @@ struct PageText {
     double size = 0;  // points, times the ratio of the page
     bool bold = false;
     Colour colour;
+    /// A text that would cross it is drawn narrower; 0 for none.
+    double right_edge = 0;
     bool operator==(PageText const&) const = default;
 };
 
