@@ -6,7 +6,9 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QTimer>
+#include <QWindow>
 
 #include "desktop/session.h"
 #include "desktop/to_qt.h"
@@ -35,6 +37,7 @@ FormWindow::FormWindow(Session& session, screen::Form& form)
     make_views();
     make_timers();
     chain_tab_order();
+    tie_keys();
     show_form();
 }
 
@@ -115,12 +118,36 @@ void FormWindow::chain_tab_order() {
     }
 }
 
+// Return and Escape, wherever the keyboard is.
+void FormWindow::tie_keys() {
+    auto const tie = [this](screen::Button* button, std::initializer_list<Qt::Key> keys) {
+        if (button == nullptr) return;
+        for (auto const key : keys) {
+            auto* const shortcut = new QShortcut{QKeySequence{key}, this};
+            QObject::connect(shortcut, &QShortcut::activated, this, [this, button] {
+                m_session.act([&](screen::User& user) { user.click(*button); });
+            });
+        }
+    };
+    tie(m_form.default_button, {Qt::Key_Return, Qt::Key_Enter});
+    tie(m_form.cancel_button, {Qt::Key_Escape});
+}
+
+// Only the main window changes its place: the small ones stand above all from the first.
+void FormWindow::show_stacking() {
+    if (!is_main() || m_form.Stacking == m_stacking || windowHandle() == nullptr) return;
+    m_stacking = m_form.Stacking;
+    windowHandle()->setFlag(Qt::WindowStaysOnTopHint, m_stacking == screen::Stacking::topmost);
+    if (m_stacking == screen::Stacking::bottom) lower();
+}
+
 void FormWindow::show_form() {
     setWindowTitle(to_qt(m_form.Caption.get()));
     QPalette colours = m_canvas->palette();
     colours.setColor(QPalette::Window, to_qt(m_form.BackColor.get()));
     m_canvas->setPalette(colours);
     m_canvas->setFixedSize(to_pixels(m_form.Width), to_pixels(m_form.Height));
+    show_stacking();
     if (m_form.Visible == isVisible()) return;
     if (!m_form.Visible) {
         hide();

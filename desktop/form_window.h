@@ -37,11 +37,14 @@ class FormWindow : public QMainWindow {
     void make_timers();
     void chain_tab_order();
     void show_form();
+    void show_stacking();
+    void tie_keys();
     bool is_main() const;
 
     Session& m_session;
     screen::Form& m_form;
     QWidget* m_canvas;
+    screen::Stacking m_stacking = screen::Stacking::normal;
     std::map<screen::Control const*, std::unique_ptr<ControlView>> m_views;
 };
 

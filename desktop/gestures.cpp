@@ -161,7 +161,7 @@ class FocusFilter : public QObject {
 
     bool focus_is_elsewhere() const {
         auto const* const focused = m_session.program().screen.focus();
-        return focused != nullptr && &focused->form() != &m_control.form();
+        return focused == nullptr || &focused->form() != &m_control.form();
     }
 
     Session& m_session;

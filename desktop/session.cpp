@@ -7,6 +7,7 @@
 #include <QDesktopServices>
 #include <QEventLoop>
 #include <QMessageBox>
+#include <QProcess>
 #include <QStandardPaths>
 #include <QTimer>
 #include <QUrl>
@@ -14,6 +15,7 @@
 #include <utility>
 
 #include "desktop/form_window.h"
+#include "desktop/outside_programs.h"
 #include "desktop/to_qt.h"
 
 namespace navarun::desktop {
@@ -141,6 +143,18 @@ Answer Session::box(std::string_view title, std::string_view text, BoxButtons bu
 
 void Session::open(std::string_view target) {
     QDesktopServices::openUrl(QUrl::fromUserInput(to_qt(target)));
+}
+
+void Session::open_file(std::filesystem::path const& file, std::string_view) {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(file.string())));
+}
+
+bool Session::has_program(OutsideProgram wanted) { return command_line_of(wanted).has_value(); }
+
+void Session::start_program(OutsideProgram wanted) {
+    if (auto const command = command_line_of(wanted)) {
+        QProcess::startDetached(command->program, command->arguments);
+    }
 }
 
 bool Session::has_text_viewer() { return TextViewer::is_installed(); }

@@ -20,6 +20,9 @@ enum class Answer : std::uint8_t { ok = 1, cancel = 2 };
 
 enum class BoxButtons : std::uint8_t { ok, ok_cancel };
 
+/// A program of the system, or this one once more.
+enum class OutsideProgram : std::uint8_t { text_editor, calculator, navarun };
+
 struct PictureSize {
     int width = 0;
     int height = 0;
@@ -43,9 +46,15 @@ class Platform {
     /// Shows a box until the user answers it. A box that has only OK answers ok.
     virtual Answer box(std::string_view title, std::string_view text, BoxButtons buttons) = 0;
 
-    /// Hands a document, program or web address to the desktop's opener; what comes of it is
-    /// not looked at.
+    /// Hands a web address to the desktop's opener; what comes of it is not looked at.
     virtual void open(std::string_view target) = 0;
+    /// Hands a file to the desktop's opener, likewise.
+    /// @param shown_as  its path from the application folder on
+    virtual void open_file(std::filesystem::path const& file, std::string_view shown_as) = 0;
+    /// Whether the system has that program.
+    virtual bool has_program(OutsideProgram wanted) = 0;
+    /// Starts it; what comes of it is not looked at.
+    virtual void start_program(OutsideProgram wanted) = 0;
 
     /// Whether there is a program that shows plain text.
     virtual bool has_text_viewer() = 0;
@@ -58,8 +67,8 @@ class Platform {
     /// Throws FatalError where it cannot.
     virtual PictureSize picture_size(std::filesystem::path const& file) = 0;
 
-    /// The paper of the printer, in inches: of the one chosen in the printer dialog, before that
-    /// of the desktop's own choice. A4 where there is none.
+    /// The paper of the printer, in inches: of the one chosen in the printer dialog, before
+    /// that of the desktop's own choice. A4 where there is none.
     virtual screen::PageSize printer_page() = 0;
     /// Lets the user choose the printer of the next document, or give it up.
     virtual Answer printer_dialog() = 0;

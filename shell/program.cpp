@@ -29,7 +29,9 @@
 #include "readings/destiny_palace.h"
 #include "readings/lords_window.h"
 #include "readings/personality_report.h"
+#include "shell/about_box.h"
 #include "shell/image_store.h"
+#include "shell/tool_menus.h"
 #include "zodiac/solar_position.h"
 
 namespace navarun {
@@ -64,6 +66,8 @@ Program::Program(Platform& platform_, std::filesystem::path application_folder_)
     wire_preview(*this);
     wire_print_options(*this);
     wire_lords_listing(*this);
+    wire_tool_menus(*this);
+    wire_about_box(*this);
 }
 
 void Program::start() {
@@ -90,7 +94,7 @@ void Program::report(FatalError const& error) {
     bool const unsaved = form1.Command_Disk_Vert.Picture.get() == picture::unsaved;
     if (m_started && unsaved) text.append("\r\n\r\n").append(rescue_consultation(*this));
     text.append("\r\n\r\nN.A.V.A.R.U.N s'arrête.");
-    platform.box("N.A.V.A.R.U.N", text, BoxButtons::ok);
+    platform.box(program_title, text, BoxButtons::ok);
 }
 
 }  // namespace navarun

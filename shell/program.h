@@ -19,6 +19,7 @@
 #include "periods/period_values.h"
 #include "print/print_values.h"
 #include "readings/calendar_values.h"
+#include "shell/a_propos.h"
 #include "shell/fleche.h"
 #include "shell/form1.h"
 #include "shell/option_impression.h"
@@ -28,6 +29,8 @@
 #include "shell/small_windows.h"
 
 namespace navarun {
+
+inline constexpr std::string_view program_title = "N.A.V.A.R.U.N";
 
 /// What is kept for the whole program, not for one person.
 struct Settings {
@@ -106,6 +109,7 @@ class Program {
     navarun::FrmSeigneurJour frm_seigneur_jour{screen};
     navarun::Palais_du_destin palais_du_destin{screen};
     navarun::FrmCalend frm_calend{screen};
+    navarun::A_propos a_propos{screen};
     navarun::Option_impression option_impression{screen};
 
     Consultation consultation;

@@ -632,7 +632,8 @@ class ControlArray {
 };
 
 /// Where a window stands among the windows of the desktop.
-enum class Stacking : std::uint8_t { normal, topmost };
+/// `bottom` sends it there once; it then comes and goes as others do.
+enum class Stacking : std::uint8_t { normal, topmost, bottom };
 
 /// A window: its controls in stacking order, the lowest first.
 class Form : public Control {
@@ -655,6 +656,9 @@ class Form : public Control {
     Property<screen::Stacking> Stacking;
     /// While it is shown the user can do nothing in any other window.
     bool Modal = false;
+    /// Clicked by Return and by Escape wherever the keyboard is in the window; null for none.
+    Button* default_button = nullptr;
+    Button* cancel_button = nullptr;
 
     /// Shows the window; the first time, and after each unloading, its load runs before.
     void open();

@@ -195,6 +195,16 @@ void User::key(Control& control, int code) {
     if (m_screen->focus() == &control && control.on_key_press) {
         control.on_key_press(static_cast<char32_t>(code));
     }
+    press_button_of(control.form(), code);
+}
+
+void User::press_button_of(Form const& form, int code) {
+    constexpr int enter = 13;
+    constexpr int escape = 27;
+    Button* const button = code == enter    ? form.default_button
+                           : code == escape ? form.cancel_button
+                                            : nullptr;
+    if (button != nullptr && button->can_be_used()) fire(button->on_click);
 }
 
 void User::drop(Control& control) {

@@ -84,6 +84,8 @@ class User {
   private:
     /// Focus by a click: moves it where the control takes it.
     void touch(Control& control);
+    /// Return and Escape click the button that its window ties to them.
+    void press_button_of(Form const& form, int code);
 
     Screen* m_screen;
     int m_key_held = 0;

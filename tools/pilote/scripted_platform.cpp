@@ -81,6 +81,21 @@ void ScriptedPlatform::open(std::string_view target) {
     m_effects.push_back({{"kind", "open"}, {"target", target}});
 }
 
+void ScriptedPlatform::open_file(std::filesystem::path const&, std::string_view shown_as) {
+    open(shown_as);
+}
+
+void ScriptedPlatform::start_program(OutsideProgram wanted) {
+    switch (wanted) {
+        case OutsideProgram::text_editor:
+            return open("text-editor");
+        case OutsideProgram::calculator:
+            return open("calculator");
+        case OutsideProgram::navarun:
+            return open("navarun");
+    }
+}
+
 void ScriptedPlatform::view_text(std::filesystem::path const& file,
                                  std::string const& shown_as) {
     m_effects.push_back({{"kind", "view"},

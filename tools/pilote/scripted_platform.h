@@ -21,6 +21,9 @@ class ScriptedPlatform : public Platform {
     void wait(double seconds, std::string_view shown_message) override;
     Answer box(std::string_view title, std::string_view text, BoxButtons buttons) override;
     void open(std::string_view target) override;
+    void open_file(std::filesystem::path const& file, std::string_view shown_as) override;
+    bool has_program(OutsideProgram) override { return true; }
+    void start_program(OutsideProgram wanted) override;
     bool has_text_viewer() override { return true; }
     void view_text(std::filesystem::path const& file, std::string const& shown_as) override;
     PictureSize picture_size(std::filesystem::path const& file) override;
