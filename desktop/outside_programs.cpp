@@ -52,7 +52,9 @@ std::optional<CommandLine> first_installed(Programs const& programs) {
     for (UsualProgram const& usual : programs) {
         QString const file = QStandardPaths::findExecutable(QString::fromLatin1(usual.name));
         if (file.isEmpty()) continue;
-        if (running.contains(QString::fromLatin1(usual.desktop))) return CommandLine{file, {}};
+        bool const own =
+            *usual.desktop != '\0' && running.contains(QString::fromLatin1(usual.desktop));
+        if (own) return CommandLine{file, {}};
         if (!found) found = CommandLine{file, {}};
     }
     return found;
