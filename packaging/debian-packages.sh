@@ -4,6 +4,7 @@
 build_packages=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-svg-dev
+    weasyprint python3-markdown fonts-liberation
     nlohmann-json3-dev
 )
 run_packages=(
@@ -14,7 +15,7 @@ virtual_display_packages=(
     xvfb xdotool imagemagick
 )
 test_packages=(
-    libgtest-dev libgmock-dev libbenchmark-dev
+    libgtest-dev libgmock-dev libbenchmark-dev poppler-utils
     xvfb xdotool imagemagick openbox
 )
 
