@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Makes the manual: chapters in Markdown, pictures of the program, one PDF.
 
-    make_manual.py --sources docs/manual --pictures FOLDER --icons assets --version 1.0.0
-                   --output "AIDE NAVARUN.pdf"
+    make_manual.py --page docs/manual/manual.html --chapters docs/manual/*.md
+                   --pictures FOLDER --icons assets --version 1.0.0 --output "AIDE NAVARUN.pdf"
 
 Beside Markdown the chapters know
 
@@ -56,18 +56,16 @@ def contents_html(body):
 
 def main():
     options = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    for name in ("sources", "pictures", "icons", "output"):
+    for name in ("page", "pictures", "icons", "output"):
         options.add_argument(f"--{name}", type=Path, required=True)
+    options.add_argument("--chapters", type=Path, nargs="+", required=True)
     options.add_argument("--version", required=True)
     given = options.parse_args()
-    sources, pictures, icons = (
-        path.resolve() for path in (given.sources, given.pictures, given.icons)
-    )
-    chapters = (sources / "chapters.txt").read_text(encoding="utf-8").split()
+    icons = given.icons.resolve()
     # Rendered as one, so that each heading has an address of its own.
-    text = "\n\n".join(read(sources / name) for name in chapters)
-    body = body_html(text, pictures, icons)
-    page = read(sources / "manual.html")
+    text = "\n\n".join(read(chapter) for chapter in given.chapters)
+    body = body_html(text, given.pictures.resolve(), icons)
+    page = read(given.page)
     for name, value in {
         "version": given.version,
         "icons": icons.as_uri(),
@@ -75,7 +73,7 @@ def main():
         "body": body,
     }.items():
         page = page.replace(f"{{{{{name}}}}}", value)
-    write_pdf(typeset(page), sources, given.output)
+    write_pdf(typeset(page), given.page.parent, given.output)
 
 
 def read(path):
