@@ -146,6 +146,13 @@ class Statements(unittest.TestCase):
         self.program.birth("29/02/1988")
         self.assertEqual(self.program.value("date_naissance"), "29/02/1988")
 
+    def test_a_31_typed_over_a_month_of_30_days_is_typed_again(self):
+        self.program.birth("01/11/1950")
+        for expected in ("30/12/1950", "31/12/1950"):
+            self.program.ask(op="focus", control="Text_nom")
+            self.program.ask(op="type", control="Combo_jourNaiss", text="31121950")
+            self.assertEqual(self.program.value("date_naissance"), expected)
+
     def test_the_entries_that_wait_for_a_true_cycle(self):
         grey = ("MnuImprime", "MnuApercu_Impression", "Mnu_palaisdestin", "Mnuperiode")
         self.generate("22/10/1986")
