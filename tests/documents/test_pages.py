@@ -12,12 +12,13 @@ def lines_of(tool, pdf):
 
 
 def description(pdf):
-    return dict(re.split(r":\s+", line, maxsplit=1) for line in lines_of("pdfinfo", pdf) if ": " in line)
+    lines = [line for line in lines_of("pdfinfo", pdf) if ": " in line]
+    return dict(re.split(r":\s+", line, maxsplit=1) for line in lines)
 
 
 class Pages(unittest.TestCase):
     def each(self):
-        return ((MANUAL, 25), (CELEBRITIES, 12))
+        return ((MANUAL, 20), (CELEBRITIES, 12))
 
     def test_they_are_of_a4_and_have_their_pages(self):
         for pdf, least in self.each():

@@ -10,7 +10,8 @@ THIN = f'<span class="thin">{NBSP}</span>'
 
 _VERBATIM = ("code", "style", "pre")
 _TAG = re.compile(r"(<[^>]+>)")
-_UNITS = r"(?:ans?|mois|jours?|pages?|secondes?|lignes|caractères|lettres|années|cases|heures|h)\b"
+# What a number stays on one line with.
+_UNITS = r"(?:ans?|mois|jours?|lignes|caractères|lettres|années|h)\b"
 
 
 def typeset_text(text):
