@@ -124,6 +124,12 @@ class Printed(unittest.TestCase):
             self.assertEqual(len(found), 1, row)
             self.assertEqual(" J " in found[0], row["calendrier"] == "julien", found)
 
+    def test_the_index_goes_from_a_to_z(self):
+        index = text_of(CELEBRITIES).rsplit("\nIndex\n", 1)[-1]
+        places = [index.index(f"\n{entry}") for entry in ("Musset, Alfred de", "Napoléon III")]
+        places += [index.index(f"\n{entry}") for entry in ("Schneider", "Schœlcher", "Schönberg")]
+        self.assertEqual(places, sorted(places))
+
 
 if __name__ == "__main__":
     unittest.main()

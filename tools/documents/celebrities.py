@@ -30,10 +30,7 @@ class Person:
     def sort_key(self):
         """The last name without its particle and accents, then the first name."""
         bare = re.sub(r"^(de |d'|du |von )", "", self.last_name)
-        return tuple(
-            unicodedata.normalize("NFD", part).encode("ascii", "ignore").decode().casefold()
-            for part in (bare, self.first_name)
-        )
+        return tuple(_plain_letters(part) for part in (bare, self.first_name))
 
     @property
     def index_entry(self):
@@ -41,6 +38,13 @@ class Person:
         particle = re.match(r"(de |d'|du |von )?(.*)", self.last_name)
         behind = f"{self.first_name} {(particle[1] or '').strip()}".strip()
         return f"{particle[2]}, {behind}" if behind else particle[2]
+
+
+def _plain_letters(text):
+    text = text.casefold()
+    for joined, letters in (("œ", "oe"), ("ø", "o"), ("ł", "l")):
+        text = text.replace(joined, letters)
+    return unicodedata.normalize("NFD", text).encode("ascii", "ignore").decode()
 
 
 def _date(text):
