@@ -15,13 +15,16 @@ virtual_display_packages=(
     xvfb xdotool imagemagick
 )
 test_packages=(
-    libgtest-dev libgmock-dev libbenchmark-dev poppler-utils
+    libgtest-dev libgmock-dev libbenchmark-dev
     xvfb xdotool imagemagick openbox
 )
 
 long_test_packages=(
     clang libclang-rt-14-dev
 )
+
+# To read the documents back.
+test_packages+=(poppler-utils)
 
 # Installs those of the given packages that are not there; by sudo where this is not root.
 install_packages() {
