@@ -4,6 +4,7 @@
 build_packages=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-svg-dev
+    weasyprint python3-markdown fonts-liberation
     nlohmann-json3-dev
 )
 run_packages=(
@@ -25,6 +26,9 @@ test_packages=(
 long_test_packages=(
     clang libclang-rt-14-dev
 )
+
+# To read the documents back.
+test_packages+=(poppler-utils)
 
 # Installs those of the given packages that are not there; by sudo where this is not root.
 install_packages() {
