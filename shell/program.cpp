@@ -26,6 +26,7 @@
 #include "readings/lords_window.h"
 #include "readings/personality_report.h"
 #include "shell/image_store.h"
+#include "shell/spoken_names.h"
 #include "zodiac/solar_position.h"
 
 namespace navarun {
@@ -56,6 +57,7 @@ Program::Program(Platform& platform_, std::filesystem::path application_folder_)
     wire_kundali(*this);
     wire_palace_colours(*this);
     wire_arrow_dialog(*this);
+    wire_spoken_names(*this);
 }
 
 void Program::start() {
