@@ -6,6 +6,7 @@
 #include "desktop/control_view.h"
 #include "desktop/gestures.h"
 #include "desktop/session.h"
+#include "desktop/spoken.h"
 #include "desktop/to_qt.h"
 
 namespace navarun::desktop {
@@ -23,6 +24,7 @@ class PlacedView : public ControlView {
         m_widget->setGeometry(place());
         m_widget->setEnabled(m_control.Enabled);
         m_widget->setToolTip(plain_tooltip(m_control.ToolTipText.get()));
+        show_name(*m_widget, to_qt(m_control.SpokenName.get()));
         show_pointer();
         show_content();
         if (!m_control.Visible) let_go_of_keyboard();

@@ -15,6 +15,7 @@
 
 #include "desktop/form_window.h"
 #include "desktop/to_qt.h"
+#include "shell/spoken_names.h"
 
 namespace navarun::desktop {
 
@@ -67,6 +68,7 @@ void Session::act(std::function<void(screen::User&)> const& event) {
 
 void Session::show_changes() {
     if (m_exit_status) return;
+    follow_spoken_names(m_program.screen);
     for (auto* control : m_program.screen.take_changed()) {
         if (auto* const shown = window(control->form())) shown->show_control(*control);
     }
@@ -83,8 +85,12 @@ FormWindow* Session::window(screen::Form const& form) const {
 }
 
 screen::Control* Session::control_at(QPoint where) const {
-    for (QWidget* widget = QApplication::widgetAt(where); widget != nullptr;
-         widget = widget->parentWidget()) {
+    auto const* const widget = QApplication::widgetAt(where);
+    return widget == nullptr ? nullptr : control_of(*widget);
+}
+
+screen::Control* Session::control_of(QWidget const& inner) const {
+    for (QWidget const* widget = &inner; widget != nullptr; widget = widget->parentWidget()) {
         for (auto const& shown : m_windows) {
             if (auto* const control = shown->control_of(*widget)) return control;
         }
