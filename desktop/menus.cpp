@@ -56,6 +56,10 @@ void Menus::refresh() {
         for (std::size_t i = 0; i < entries.size(); ++i) {
             auto const& [entry, action, opens] = entries[i];
             action->setText(marked[static_cast<qsizetype>(i)]);
+            if (opens) {
+                action->menu()->setAccessibleName(
+                    QString{marked[static_cast<qsizetype>(i)]}.remove(QLatin1Char('&')));
+            }
             action->setEnabled(entry->Enabled);
             action->setVisible(entry->Visible);
             if (opens) continue;

@@ -6,6 +6,7 @@
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QEventLoop>
+#include <QLabel>
 #include <QMessageBox>
 #include <QStandardPaths>
 #include <QTimer>
@@ -141,6 +142,10 @@ Answer Session::box(std::string_view title, std::string_view text, BoxButtons bu
     box.setIcon(question ? QMessageBox::Question : QMessageBox::Warning);
     box.setStandardButtons(question ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
     box.setDefaultButton(QMessageBox::Ok);
+    if (auto* const icon = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label"))) {
+        icon->setAccessibleName(question ? QStringLiteral("Question")
+                                         : QStringLiteral("Avertissement"));
+    }
     bool const agreed = box.exec() == QMessageBox::Ok;
     return agreed || !question ? Answer::ok : Answer::cancel;
 }

@@ -57,7 +57,58 @@ class DrawnWidget : public QAccessibleWidget {
     bool m_reacts;
 };
 
-QAccessibleInterface* drawn_widget(QString const&, QObject* object) {
+// A combo by its own name; the toolkit's calls it by what stands in it.
+class NamedCombo : public QAccessibleWidget {
+  public:
+    explicit NamedCombo(QComboBox* combo)
+        : QAccessibleWidget{combo, QAccessible::ComboBox}, m_combo{*combo} {}
+
+    QString text(QAccessible::Text what) const override {
+        bool const written = m_combo.isEditable();
+        if (what == QAccessible::Value) return m_combo.currentText();
+        QString const own = QAccessibleWidget::text(what);
+        if (what != QAccessible::Name || written || m_combo.currentText().isEmpty()) return own;
+        // Nothing inside tells what is chosen.
+        return own + QStringLiteral(": ") + m_combo.currentText();
+    }
+
+    int childCount() const override { return m_combo.isEditable() ? 2 : 1; }
+
+    QAccessibleInterface* child(int index) const override {
+        if (index == 0) return QAccessible::queryAccessibleInterface(m_combo.view());
+        return index == 1 ? QAccessible::queryAccessibleInterface(m_combo.lineEdit()) : nullptr;
+    }
+
+    int indexOfChild(QAccessibleInterface const* inner) const override {
+        if (inner == nullptr) return -1;
+        if (inner->object() == m_combo.view()) return 0;
+        return m_combo.isEditable() && inner->object() == m_combo.lineEdit() ? 1 : -1;
+    }
+
+    QAccessibleInterface* childAt(int x, int y) const override {
+        auto* const line = m_combo.lineEdit();
+        bool const in_line =
+            line != nullptr && line->rect().contains(line->mapFromGlobal(QPoint{x, y}));
+        return in_line ? child(1) : nullptr;
+    }
+
+    QStringList actionNames() const override { return {showMenuAction(), setFocusAction()}; }
+
+    void doAction(QString const& name) override {
+        if (name == showMenuAction()) {
+            m_combo.showPopup();
+        } else {
+            QAccessibleWidget::doAction(name);
+        }
+    }
+
+  private:
+    QComboBox& m_combo;
+};
+
+// Asked for each object and each class that it is of; what is not ours is the toolkit's.
+QAccessibleInterface* own_interface(QString const&, QObject* object) {
+    if (auto* const combo = qobject_cast<QComboBox*>(object)) return new NamedCombo{combo};
     if (object == nullptr || !object->isWidgetType()) return nullptr;
     if (!object->property(role_property).isValid()) return nullptr;
     return new DrawnWidget{static_cast<QWidget*>(object)};
@@ -65,7 +116,7 @@ QAccessibleInterface* drawn_widget(QString const&, QObject* object) {
 
 }  // namespace
 
-void install_roles() { QAccessible::installFactory(drawn_widget); }
+void install_roles() { QAccessible::installFactory(own_interface); }
 
 void present(QWidget& widget, SpokenRole role, bool reacts) {
     widget.setProperty(role_property, static_cast<int>(role));

@@ -15,7 +15,8 @@ virtual_display_packages=(
 )
 test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
-    xvfb xdotool imagemagick openbox
+    xvfb xdotool imagemagick openbox x11-utils
+    at-spi2-core gir1.2-atspi-2.0 python3-gi python3 dbus-daemon
 )
 
 long_test_packages=(

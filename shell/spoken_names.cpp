@@ -133,46 +133,47 @@ std::string palace_said(Form1 const& form, int cell) {
     return said;
 }
 
-std::string reign_said(Form1 const& form, int cell, std::string_view of_what, Label const& lord,
-                       std::string_view date) {
+// What the eye sees by the black of a date among grey ones.
+std::string_view mark_said(Label const& date) {
+    return date.ForeColor.get() == screen::black ? ", marqué" : "";
+}
+
+std::string reign_said(Form1 const& form, int cell, std::string_view of_what,
+                       Label const& lord) {
     std::string said = palace_said(form, cell);
-    said.append("; seigneur ").append(of_what).append(": ");
-    said.append(lord_said(lord.Caption.get())).append(since(date));
-    if (lord.FontBold) said.append(", choisi");
-    return said;
+    return said.append("; seigneur ")
+        .append(of_what)
+        .append(": ")
+        .append(lord_said(lord.Caption.get()));
 }
 
 void name_the_cells(Form1& form) {
     for (int cell = 1; cell <= 12; ++cell) {
-        auto const period_date = [&form, cell] {
-            return std::string_view{form.Label_DashaDate(cell).Caption.get()};
-        };
-        auto const month_date = [&form, cell] {
-            return std::string_view{form.Label_MoisDate(cell).Caption.get()};
-        };
-        form.Label_Dasha(cell).speak = [&form, cell, period_date] {
-            return reign_said(form, cell, "de la période", form.Label_Dasha(cell),
-                              period_date());
+        auto const& period_date = form.Label_DashaDate(cell);
+        auto const& month_date = form.Label_MoisDate(cell);
+        form.Label_Dasha(cell).speak = [&form, cell, &period_date] {
+            auto said = reign_said(form, cell, "de la période", form.Label_Dasha(cell));
+            return said.append(since(period_date.Caption.get())).append(mark_said(period_date));
         };
         form.Label_annee(cell).speak = [&form, cell] {
-            // The age's cell stays marked where no lord is written in it.
-            if (form.Label_annee(cell).Caption.get().empty()) {
-                return palace_said(form, cell) + "; case de l'âge";
-            }
-            return reign_said(form, cell, "de l'année", form.Label_annee(cell), {});
+            // A label that nobody has written to shows nothing but its place.
+            if (form.Label_annee(cell).Caption.get().empty()) return palace_said(form, cell);
+            return reign_said(form, cell, "de l'année", form.Label_annee(cell));
         };
-        form.Label_mois(cell).speak = [&form, cell, month_date] {
-            return reign_said(form, cell, "du mois", form.Label_mois(cell), month_date());
+        form.Label_mois(cell).speak = [&form, cell, &month_date] {
+            auto said = reign_said(form, cell, "du mois", form.Label_mois(cell));
+            return said.append(since(month_date.Caption.get())).append(mark_said(month_date));
         };
         form.Label_Solaire(cell).speak = [&form, cell] { return palace_said(form, cell); };
-        form.Label_DashaDate(cell).speak = [&form, cell, period_date] {
-            return palace_said(form, cell) + "; période" + since(period_date());
+        form.Label_DashaDate(cell).speak = [&form, cell, &period_date] {
+            return palace_said(form, cell) + "; période" + since(period_date.Caption.get());
         };
-        form.Label_MoisDate(cell).speak = [&form, cell, month_date] {
-            return palace_said(form, cell) + "; mois" + since(month_date());
+        form.Label_MoisDate(cell).speak = [&form, cell, &month_date] {
+            return palace_said(form, cell) + "; mois" + since(month_date.Caption.get());
         };
     }
     for (int const member : form.ImageTriDeva.indexes()) {
+        form.ImageTriDeva(member).speak = nullptr;
         form.ImageTriDeva(member).SpokenName =
             member < 3 ? "Tri-Deva, signe du trident" : "Tri-Deva, signe des trois gouttes";
     }

@@ -83,11 +83,29 @@ TEST_F(Spoken, TheNameFollowsWhatTheCellShows) {
     EXPECT_THAT(said(form().Label_mois(4)), testing::HasSubstr("1964"));
 }
 
-TEST_F(Spoken, ThePickedMonthIsToldNotByItsWeightAlone) {
+TEST_F(Spoken, ThePickedMonthIsToldNotByItsColourAlone) {
     visit.click("Label_mois(7)");
-    EXPECT_THAT(said(form().Label_mois(7)), testing::EndsWith(", choisi"));
+    EXPECT_THAT(said(form().Label_mois(7)), testing::EndsWith(", marqué"));
     visit.click("Label_mois(8)");
-    EXPECT_THAT(said(form().Label_mois(7)), testing::Not(testing::EndsWith(", choisi")));
+    EXPECT_THAT(said(form().Label_mois(7)), testing::Not(testing::EndsWith(", marqué")));
+    EXPECT_THAT(said(form().Label_mois(8)), testing::EndsWith(", marqué"));
+}
+
+TEST_F(Spoken, TheLordOfTheYearAndTheMarksOfTheTriDevaAreSaid) {
+    visit.generate_for("17051962");
+    int years = 0;
+    for (int cell = 1; cell <= 12; ++cell) {
+        if (form().Label_annee(cell).Caption.get().empty()) continue;
+        ++years;
+        EXPECT_THAT(
+            said(form().Label_annee(cell)),
+            testing::MatchesRegex("Palais [0-9]+, .*; seigneur de l'année: [A-Z][a-z]+"));
+    }
+    EXPECT_EQ(years, 1);
+    for (int const member : form().ImageTriDeva.indexes()) {
+        form().ImageTriDeva(member).Visible = true;
+        EXPECT_THAT(said(form().ImageTriDeva(member)), testing::StartsWith("Tri-Deva"));
+    }
 }
 
 TEST_F(Spoken, ShortNamesAreSaidInFull) {
