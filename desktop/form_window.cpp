@@ -219,7 +219,10 @@ void FormWindow::fit_to_screen() {
     QSize const whole = m_canvas->size() + QSize{0, menu_height};
     // The frame is known once the window has been shown.
     QSize const frame = frameGeometry().size() - size();
-    QRect const screen_room = screen()->availableGeometry();
+    // Between scaled pixels and those of the screen there is some rounding.
+    constexpr int air = 8;
+    QRect const whole_screen = screen()->availableGeometry();
+    QRect const screen_room = whole_screen.adjusted(air / 2, air / 2, -air / 2, -air / 2);
     QSize const room = screen_room.size() - frame;
     // A bar that scrolls one way takes room the other way.
     int const bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
@@ -245,13 +248,29 @@ void FormWindow::fit_to_screen() {
          std::clamp(place.y(), screen_room.top(), std::max(screen_room.top(), last.y())));
 }
 
-void FormWindow::showEvent(QShowEvent* event) {
-    QMainWindow::showEvent(event);
-    // By now the window manager has put its frame round the window, or soon will.
-    QTimer::singleShot(0, this, [this] {
-        QRect const room = screen()->availableGeometry();
-        if (isVisible() && !room.contains(frameGeometry())) fit_to_screen();
-    });
+// The frame that the window manager puts round the window is known some events after it is
+// shown; then it has to fit too. Once: afterwards the place is the user's.
+void FormWindow::fit_with_frame() {
+    if (m_fits_with_frame || !isVisible() || frameGeometry() == geometry()) return;
+    m_fits_with_frame = true;
+    if (!screen()->availableGeometry().contains(frameGeometry())) fit_to_screen();
+}
+
+bool FormWindow::event(QEvent* event) {
+    bool const done = QMainWindow::event(event);
+    switch (event->type()) {
+        case QEvent::Hide:
+            m_fits_with_frame = false;
+            break;
+        case QEvent::Move:
+        case QEvent::Resize:
+        case QEvent::WindowActivate:
+            fit_with_frame();
+            break;
+        default:
+            break;
+    }
+    return done;
 }
 
 bool FormWindow::is_main() const { return &m_form == &m_session.program().form1; }

@@ -42,7 +42,7 @@ class FormWindow : public QMainWindow {
   protected:
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void showEvent(QShowEvent* event) override;
+    bool event(QEvent* event) override;
     bool focusNextPrevChild(bool next) override;
 
   private:
@@ -55,6 +55,7 @@ class FormWindow : public QMainWindow {
     void show_form();
     /// As large as the form where the screen has the room; elsewhere it scrolls.
     void fit_to_screen();
+    void fit_with_frame();
     bool is_main() const;
 
     Session& m_session;
@@ -67,6 +68,7 @@ class FormWindow : public QMainWindow {
     TabWalk m_walk;
     // Which control had the focus when the keyboard came to a stop of the desktop's own.
     screen::Control const* m_focus_at_stop = nullptr;
+    bool m_fits_with_frame = false;
 };
 
 }  // namespace navarun::desktop
