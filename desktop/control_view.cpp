@@ -15,6 +15,8 @@
 #include "desktop/list_view.h"
 #include "desktop/page_painter.h"
 #include "desktop/placed_view.h"
+#include "desktop/stand_in_keys.h"
+#include "desktop/tab_walk.h"
 
 namespace navarun::desktop {
 
@@ -25,6 +27,8 @@ class LabelView : public PlacedView<screen::Label, LabelWidget> {
     LabelView(Session& session, screen::Label& label, QWidget& parent)
         : PlacedView{session, label, new LabelWidget{&parent}} {
         tell_mouse(session, label, shown());
+        if (is_stop_of_the_desktop(label)) tell_keys(session, label, shown());
+        present(shown(), SpokenRole::text, label.on_click || label.on_double_click);
     }
 
   protected:
@@ -120,6 +124,8 @@ class SurfaceView : public PlacedView<C, SurfaceWidget> {
         : PlacedView<C, SurfaceWidget>{session, control,
                                        new SurfaceWidget{session.pictures(), &parent}} {
         tell_mouse(session, control, this->shown());
+        if (is_stop_of_the_desktop(control)) tell_keys(session, control, this->shown());
+        present(this->shown(), role_of(control), control.on_click || control.on_double_click);
         if (control.on_file_drop) tell_file_drops(session, control, this->shown());
     }
 
@@ -127,6 +133,16 @@ class SurfaceView : public PlacedView<C, SurfaceWidget> {
     void show_content() override { this->shown().set_look(look_of(this->control())); }
 
   private:
+    static SpokenRole role_of(screen::PictureBox const&) { return SpokenRole::picture; }
+    static SpokenRole role_of(screen::Frame const&) { return SpokenRole::group; }
+    static SpokenRole role_of(screen::Shape const&) { return SpokenRole::decoration; }
+    // A picture that nobody speaks of is there for the eye alone.
+    static SpokenRole role_of(screen::Image const& image) {
+        bool const named =
+            image.speak ? !image.speak().empty() : !image.SpokenName.get().empty();
+        return named ? SpokenRole::picture : SpokenRole::decoration;
+    }
+
     static SurfaceWidget::Look look_of(screen::Image const& image) {
         return {.picture = image.Picture.get().name(),
                 .ground = {},
@@ -417,24 +433,6 @@ std::unique_ptr<ControlView> make_view(Session& session, screen::PlacedControl& 
             break;
     }
     throw std::logic_error{"no widget for " + control.full_name()};
-}
-
-MenuEntryView::MenuEntryView(Session& session, screen::MenuEntry& entry, QAction& action)
-    : m_entry{entry}, m_action{action} {
-    action.setObjectName(to_qt(entry.name()));
-    QObject::connect(&action, &QAction::triggered, &action, [this, &session] {
-        session.act([this](screen::User& user) { user.click(m_entry); });
-        // The toolkit moves a check mark by itself; the model's stands.
-        refresh();
-    });
-}
-
-void MenuEntryView::refresh() {
-    m_action.setText(to_qt(m_entry.Caption.get()));
-    m_action.setEnabled(m_entry.Enabled);
-    m_action.setVisible(m_entry.Visible);
-    m_action.setCheckable(m_entry.Checked);
-    m_action.setChecked(m_entry.Checked);
 }
 
 }  // namespace navarun::desktop

@@ -1,8 +1,6 @@
 // How the kinds of controls look and answer on the desktop.
 #pragma once
 
-#include <QAction>
-#include <QPointer>
 #include <QWidget>
 #include <memory>
 
@@ -22,8 +20,7 @@ class ControlView {
 
     /// Shows the control's present properties.
     virtual void refresh() = 0;
-    /// Null for a menu entry.
-    virtual QWidget* widget() const { return nullptr; }
+    virtual QWidget* widget() const = 0;
     /// Where the keyboard goes when the control has the focus.
     virtual QWidget* focus_widget() const { return widget(); }
 };
@@ -31,15 +28,5 @@ class ControlView {
 /// The view that suits the control's kind.
 std::unique_ptr<ControlView> make_view(Session& session, screen::PlacedControl& control,
                                        QWidget& parent);
-
-class MenuEntryView : public ControlView {
-  public:
-    MenuEntryView(Session& session, screen::MenuEntry& entry, QAction& action);
-    void refresh() override;
-
-  private:
-    screen::MenuEntry& m_entry;
-    QAction& m_action;
-};
 
 }  // namespace navarun::desktop

@@ -1,6 +1,7 @@
 // The drag of a record: a mode that begins with Control on a selected entry. A small picture
-// follows the pointer; a click on a control, or letting a drag go there, drops on it; any other
-// act ends the mode.
+// follows the pointer; a click on a control, or letting a drag go there, drops on it. With the
+// keyboard Tab and the arrows go through what a record can be dropped on, and Enter drops it.
+// Any other act ends the mode.
 #pragma once
 
 #include <QObject>
@@ -19,6 +20,9 @@ class DragMode : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    bool press(int key);
+    void go_to_next_target(int step);
+
     Session& m_session;
     bool m_shown = false;
 };

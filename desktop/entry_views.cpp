@@ -176,6 +176,10 @@ TextAreaView::TextAreaView(Session& session, screen::TextArea& area, QWidget& pa
     : PlacedView{session, area, new QPlainTextEdit{&parent}} {
     auto& edit = shown();
     edit.setReadOnly(area.read_only());
+    // What is only read can be selected, copied and scrolled with the keys too.
+    if (area.read_only()) {
+        edit.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    }
     edit.setTabChangesFocus(true);
     edit.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     edit.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

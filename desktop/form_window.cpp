@@ -3,12 +3,14 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QMenuBar>
+#include <QKeyEvent>
 #include <QScreen>
-#include <QScrollArea>
-#include <QShortcut>
+#include <QScrollBar>
+#include <QStyle>
 #include <QTimer>
+#include <QToolTip>
 #include <QWindow>
+#include <algorithm>
 
 #include "desktop/session.h"
 #include "desktop/to_qt.h"
@@ -16,7 +18,12 @@
 namespace navarun::desktop {
 
 FormWindow::FormWindow(Session& session, screen::Form& form)
-    : m_session{session}, m_form{form}, m_canvas{new QWidget} {
+    : m_session{session},
+      m_form{form},
+      m_canvas{new QWidget},
+      m_area{new QScrollArea},
+      m_ring{new FocusRing{*m_canvas}},
+      m_menus{session, form, *menuBar()} {
     setObjectName(to_qt(form.name()));
     if (!is_main()) {
         // A small window beside the main one, above it and all others.
@@ -28,16 +35,16 @@ FormWindow::FormWindow(Session& session, screen::Form& form)
     m_canvas->setAutoFillBackground(true);
     m_canvas->setObjectName(QStringLiteral("canvas"));
     // On a screen smaller than the window it scrolls.
-    auto* const area = new QScrollArea;
-    area->setFrameShape(QFrame::NoFrame);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setWidget(m_canvas);
-    setCentralWidget(area);
-    make_menus();
+    m_area->setFrameShape(QFrame::NoFrame);
+    m_area->setFocusPolicy(Qt::NoFocus);
+    m_area->setWidget(m_canvas);
+    setCentralWidget(m_area);
     make_views();
     make_timers();
-    chain_tab_order();
-    tie_keys();
+    make_tab_order();
+    make_shortcuts();
+    QObject::connect(qApp, &QApplication::focusChanged, this,
+                     [this](QWidget*, QWidget* to) { keyboard_moved(to); });
     show_form();
 }
 
@@ -57,37 +64,6 @@ void FormWindow::make_views() {
     }
 }
 
-void FormWindow::make_menus() {
-    std::map<screen::Control const*, QMenu*> menus;
-    auto const opens_a_menu = [&](screen::Control const* entry) {
-        return std::ranges::any_of(
-            m_form.controls(), [&](auto const* other) { return other->container() == entry; });
-    };
-    for (auto* control : m_form.controls()) {
-        bool const separates = control->kind() == screen::Kind::menu_separator;
-        if (separates) {
-            menus.at(control->container())->addSeparator();
-            continue;
-        }
-        auto* const entry = dynamic_cast<screen::MenuEntry*>(control);
-        if (entry == nullptr) continue;
-        QString const caption = to_qt(entry->Caption.get());
-        auto* const above =
-            entry->container() == nullptr ? nullptr : menus.at(entry->container());
-        if (opens_a_menu(entry)) {
-            menus[entry] =
-                above == nullptr ? menuBar()->addMenu(caption) : above->addMenu(caption);
-            menus[entry]->setObjectName(to_qt(entry->name()));
-            continue;
-        }
-        QAction* const action =
-            above == nullptr ? menuBar()->addAction(caption) : above->addAction(caption);
-        auto view = std::make_unique<MenuEntryView>(m_session, *entry, *action);
-        view->refresh();
-        m_views[entry] = std::move(view);
-    }
-}
-
 void FormWindow::make_timers() {
     for (auto* control : m_form.controls()) {
         if (control->kind() != screen::Kind::timer) continue;
@@ -101,36 +77,62 @@ void FormWindow::make_timers() {
     }
 }
 
-void FormWindow::chain_tab_order() {
+void FormWindow::make_shortcuts() {
+    auto const on = [this](QKeySequence const& keys, auto const& does) {
+        auto* const action = new QAction{this};
+        action->setShortcut(keys);
+        QObject::connect(action, &QAction::triggered, this, does);
+        addAction(action);
+    };
+    auto const clicks = [this](screen::Button& button) {
+        return
+            [this, &button] { m_session.act([&](screen::User& user) { user.click(button); }); };
+    };
+    if (auto* const button = m_form.default_button) {
+        on(Qt::Key_Return, clicks(*button));
+        on(Qt::Key_Enter, clicks(*button));
+    }
+    if (auto* const button = m_form.cancel_button) on(Qt::Key_Escape, clicks(*button));
+    // The keys of the desktop for the menu bar and for the next window of a program.
+    on(Qt::Key_F10, [this] {
+        auto const entries = menuBar()->actions();
+        if (entries.isEmpty()) return;
+        menuBar()->setFocus(Qt::MenuBarFocusReason);
+        menuBar()->setActiveAction(entries.front());
+    });
+    on(Qt::Key_F6, [this] {
+        auto const& forms = m_session.program().screen.forms();
+        auto const here = std::ranges::find(forms, &m_form) - forms.begin();
+        auto const count = std::ssize(forms);
+        for (auto step = 1; step < count; ++step) {
+            auto const* const form = forms[static_cast<std::size_t>((here + step) % count)];
+            auto* const next = m_session.window(*form);
+            if (next == nullptr || !next->isVisible()) continue;
+            next->raise();
+            next->activateWindow();
+            return;
+        }
+    });
+}
+
+void FormWindow::make_tab_order() {
     QWidget* before = nullptr;
-    auto const chain = [&](screen::Control const* control) {
+    auto const add = [&](screen::Control* control) {
         auto const view = m_views.find(control);
         if (view == m_views.end()) return;
         auto* const target = view->second->focus_widget();
-        if (target == nullptr || target->focusPolicy() == Qt::NoFocus) return;
+        if (target->focusPolicy() == Qt::NoFocus) return;
+        m_walk.add({control, target});
+        target->installEventFilter(this);
+        // The toolkit asks its own chain which widget comes first.
         if (before != nullptr) QWidget::setTabOrder(before, target);
         before = target;
     };
-    for (auto const* control : m_form.tab_order) chain(control);
-    for (auto const* control : m_form.controls()) {
+    for (auto* control : m_form.tab_order) add(control);
+    for (auto* control : m_form.controls()) {
         if (std::ranges::find(m_form.tab_order, control) == m_form.tab_order.end())
-            chain(control);
+            add(control);
     }
-}
-
-// Return and Escape, wherever the keyboard is.
-void FormWindow::tie_keys() {
-    auto const tie = [this](screen::Button* button, std::initializer_list<Qt::Key> keys) {
-        if (button == nullptr) return;
-        for (auto const key : keys) {
-            auto* const shortcut = new QShortcut{QKeySequence{key}, this};
-            QObject::connect(shortcut, &QShortcut::activated, this, [this, button] {
-                m_session.act([&](screen::User& user) { user.click(*button); });
-            });
-        }
-    };
-    tie(m_form.default_button, {Qt::Key_Return, Qt::Key_Enter});
-    tie(m_form.cancel_button, {Qt::Key_Escape});
 }
 
 // Only the main window changes its place: the small ones stand above all from the first.
@@ -141,32 +143,153 @@ void FormWindow::show_stacking() {
     if (m_stacking == screen::Stacking::bottom) lower();
 }
 
+bool FormWindow::focusNextPrevChild(bool next) {
+    QWidget const* from = focusWidget();
+    // Where nobody has the keyboard, the way goes on from the control that has the focus.
+    if (m_walk.control_of(from) == nullptr) {
+        auto const* const focused = m_session.program().screen.focus();
+        if (focused != nullptr && &focused->form() == &m_form) from = widget(*focused);
+    }
+    auto* const to = m_walk.after(from, next);
+    if (to == nullptr) return false;
+    walk_to(*to, next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
+}
+
+void FormWindow::walk_to(QWidget& stop, Qt::FocusReason reason) {
+    stop.setFocus(reason);
+    m_walk.visited(stop);
+    // What is a picture only tells what it is for, as it does under the pointer.
+    auto const* const control = m_walk.control_of(&stop);
+    bool const told_by_itself =
+        control == nullptr || dynamic_cast<screen::EntryControl const*>(control) != nullptr;
+    if (told_by_itself || stop.toolTip().isEmpty()) return;
+    QToolTip::showText(stop.mapToGlobal(QPoint{0, stop.height()}), stop.toolTip(), &stop);
+}
+
+void FormWindow::keyboard_moved(QWidget* to) {
+    if (to != nullptr && to->window() != this) to = nullptr;
+    auto const* const control = to == nullptr ? nullptr : m_walk.control_of(to);
+    m_ring->go_round(control == nullptr ? nullptr : to);
+    if (control == nullptr) return;
+    m_area->ensureWidgetVisible(to, 8, 8);
+}
+
+bool FormWindow::give_keyboard_back() {
+    auto const* const focused = m_session.program().screen.focus();
+    if (focused == nullptr || &focused->form() != &m_form) return false;
+    m_focus_at_stop = nullptr;
+    show_focus(*focused);
+    return true;
+}
+
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn) {
+        auto const* const control = m_walk.control_of(qobject_cast<QWidget*>(watched));
+        bool const own = control != nullptr && !control->takes_focus();
+        m_focus_at_stop = own ? m_session.program().screen.focus() : nullptr;
+    }
+    if (event->type() != QEvent::KeyPress) return QMainWindow::eventFilter(watched, event);
+    using enum TabWalk::Direction;
+    static std::map<int, TabWalk::Direction> const directions{
+        {Qt::Key_Left, left}, {Qt::Key_Right, right}, {Qt::Key_Up, up},
+        {Qt::Key_Down, down}, {Qt::Key_Home, first},  {Qt::Key_End, last},
+    };
+    auto const direction = directions.find(static_cast<QKeyEvent*>(event)->key());
+    auto const* const stop = qobject_cast<QWidget*>(watched);
+    if (direction == directions.end() || stop == nullptr) return false;
+    if (!m_walk.is_walked(*stop)) return false;
+    if (auto* const to = m_walk.neighbour(*stop, direction->second)) {
+        walk_to(*to, Qt::TabFocusReason);
+    }
+    return true;
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+    // What blocks the other windows goes by Escape, as the toolkit's own boxes do.
+    if (event->key() == Qt::Key_Escape && m_form.Modal) {
+        close();
+        return;
+    }
+    QMainWindow::keyPressEvent(event);
+}
+
 void FormWindow::show_form() {
     setWindowTitle(to_qt(m_form.Caption.get()));
+    setAccessibleName(to_qt(m_form.SpokenName.get()));
+    QColor const ground = to_qt(m_form.BackColor.get());
     QPalette colours = m_canvas->palette();
-    colours.setColor(QPalette::Window, to_qt(m_form.BackColor.get()));
+    colours.setColor(QPalette::Window, ground);
     m_canvas->setPalette(colours);
     m_canvas->setFixedSize(to_pixels(m_form.Width), to_pixels(m_form.Height));
     show_stacking();
+    m_ring->set_tone(deep_tone_on(ground));
     if (m_form.Visible == isVisible()) return;
     if (!m_form.Visible) {
         hide();
         return;
     }
+    fit_to_screen();
+    show();
+}
+
+void FormWindow::fit_to_screen() {
     int const menu_height = menuBar()->actions().isEmpty() ? 0 : menuBar()->sizeHint().height();
     QSize const whole = m_canvas->size() + QSize{0, menu_height};
-    QRect const room = screen()->availableGeometry();
-    setMaximumSize(whole);
-    if (whole.width() <= room.width() && whole.height() <= room.height()) setMinimumSize(whole);
-    resize(whole.boundedTo(room.size()));
-    if (is_main()) {
-        move(room.center() - rect().center());
-    } else {
+    // The frame is known once the window has been shown.
+    QSize const frame = frameGeometry().size() - size();
+    // Between scaled pixels and those of the screen there is some rounding.
+    constexpr int air = 8;
+    QRect const whole_screen = screen()->availableGeometry();
+    QRect const screen_room = whole_screen.adjusted(air / 2, air / 2, -air / 2, -air / 2);
+    QSize const room = screen_room.size() - frame;
+    // A bar that scrolls one way takes room the other way.
+    int const bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    QSize wanted = whole;
+    if (whole.height() > room.height()) wanted.rwidth() += bar;
+    if (whole.width() > room.width()) wanted.rheight() += bar;
+    setMaximumSize(wanted);
+    setMinimumSize(wanted == whole ? whole : QSize{0, 0});
+    resize(wanted.boundedTo(room));
+    QPoint place = screen_room.center() - QRect{QPoint{0, 0}, size() + frame}.center();
+    if (!is_main()) {
         auto const& main = *m_session.window(m_session.program().form1);
-        move(main.m_canvas->mapToGlobal(
-            QPoint{to_pixels(m_form.Opening.left), to_pixels(m_form.Opening.top)}));
+        QSize const scrolled{main.m_area->horizontalScrollBar()->value(),
+                             main.m_area->verticalScrollBar()->value()};
+        place = main.m_canvas->mapToGlobal(
+            QPoint{to_pixels(m_form.Opening.left) + scrolled.width(),
+                   to_pixels(m_form.Opening.top) + scrolled.height()});
     }
-    show();
+    // Nothing of it beyond the screen.
+    QPoint const last{screen_room.right() + 1 - width() - frame.width(),
+                      screen_room.bottom() + 1 - height() - frame.height()};
+    move(std::clamp(place.x(), screen_room.left(), std::max(screen_room.left(), last.x())),
+         std::clamp(place.y(), screen_room.top(), std::max(screen_room.top(), last.y())));
+}
+
+// The frame that the window manager puts round the window is known some events after it is
+// shown; then it has to fit too. Once: afterwards the place is the user's.
+void FormWindow::fit_with_frame() {
+    if (m_fits_with_frame || !isVisible() || frameGeometry() == geometry()) return;
+    m_fits_with_frame = true;
+    if (!screen()->availableGeometry().contains(frameGeometry())) fit_to_screen();
+}
+
+bool FormWindow::event(QEvent* event) {
+    bool const done = QMainWindow::event(event);
+    switch (event->type()) {
+        case QEvent::Hide:
+            m_fits_with_frame = false;
+            break;
+        case QEvent::Move:
+        case QEvent::Resize:
+        case QEvent::WindowActivate:
+            fit_with_frame();
+            break;
+        default:
+            break;
+    }
+    return done;
 }
 
 bool FormWindow::is_main() const { return &m_form == &m_session.program().form1; }
@@ -176,13 +299,20 @@ void FormWindow::show_control(screen::Control const& control) {
         show_form();
         return;
     }
+    if (control.kind() == screen::Kind::menu_entry) {
+        m_menus.refresh();
+        return;
+    }
     auto const view = m_views.find(&control);
     if (view != m_views.end()) view->second->refresh();
 }
 
 void FormWindow::show_focus(screen::Control const& control) {
     auto* const target = m_views.at(&control)->focus_widget();
-    if (target == nullptr || target->hasFocus()) return;
+    if (target->hasFocus()) return;
+    // On a label or a picture the keyboard stays until the focus goes elsewhere, and on what a
+    // record may be dropped on until it is.
+    if (&control == m_focus_at_stop || m_session.program().screen.dragged() != nullptr) return;
     // A menu or a list that has popped up keeps the keyboard until it closes.
     if (QApplication::activePopupWidget() == nullptr) target->setFocus(Qt::OtherFocusReason);
 }

@@ -140,6 +140,7 @@ class FocusFilter : public QObject {
             case Qt::TabFocusReason:
             case Qt::BacktabFocusReason:
             case Qt::ShortcutFocusReason:
+            case Qt::OtherFocusReason:  // a screen reader; or the model, whose focus is here
                 take_focus();
                 break;
             case Qt::ActiveWindowFocusReason:

@@ -1,7 +1,11 @@
 // Painting of labels.
 #include "desktop/label_widget.h"
 
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
 #include <QFontMetricsF>
+#include <QMenu>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -47,6 +51,21 @@ double LabelWidget::room() const { return width() - 2 * indent(); }
 double LabelWidget::narrowing() const {
     double const needed = QFontMetricsF{m_look.font}.horizontalAdvance(m_look.text);
     return needed > room() && !wraps(rect(), m_look.font) ? room() / needed : 1.0;
+}
+
+void LabelWidget::contextMenuEvent(QContextMenuEvent* event) {
+    QString const text = m_look.text.simplified();
+    if (text.isEmpty()) {
+        event->ignore();
+        return;
+    }
+    auto* const menu = new QMenu{this};
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    auto* const copy = menu->addAction(QStringLiteral("Co&pier"));
+    QObject::connect(copy, &QAction::triggered, this,
+                     [text] { QApplication::clipboard()->setText(text); });
+    bool const by_key = event->reason() == QContextMenuEvent::Keyboard;
+    menu->popup(by_key ? mapToGlobal(rect().center()) : event->globalPos());
 }
 
 void LabelWidget::paintEvent(QPaintEvent*) {

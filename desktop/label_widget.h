@@ -31,6 +31,8 @@ class LabelWidget : public QWidget {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    /// Offers the text for copying.
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
     int indent() const;

@@ -32,9 +32,28 @@ class ListKeys : public QObject {
     bool eventFilter(QObject*, QEvent* event) override {
         if (event->type() != QEvent::KeyPress) return false;
         auto const& pressed = *static_cast<QKeyEvent*>(event);
+        if (m_list.ListIndex < 0 && m_list.count() > 0) {
+            // With nothing selected the way begins at an end; the toolkit would pass it by.
+            bool const down = pressed.key() == Qt::Key_Down || pressed.key() == Qt::Key_Home;
+            bool const up = pressed.key() == Qt::Key_Up || pressed.key() == Qt::Key_End;
+            if (down || up) {
+                m_session.act([&](screen::User& user) {
+                    user.choose(m_list, down ? 0 : m_list.count() - 1);
+                });
+                return true;
+            }
+        }
         int const code = code_of(pressed.key());
         if (code == 0 || pressed.isAutoRepeat()) return false;
-        m_session.act([&](screen::User& user) { user.key(m_list, code); });
+        // Where the list answers to no key, Enter is the double click.
+        bool const opens = code == key::enter && !m_list.on_key_press && !m_list.on_key_down;
+        m_session.act([&](screen::User& user) {
+            if (opens) {
+                user.double_click(m_list);
+            } else {
+                user.key(m_list, code);
+            }
+        });
         return true;
     }
 
@@ -59,8 +78,10 @@ int EntriesModel::rowCount(QModelIndex const& parent) const {
 }
 
 QVariant EntriesModel::data(QModelIndex const& index, int role) const {
-    if (role != Qt::DisplayRole || index.row() >= m_list.count()) return {};
-    return to_qt(m_list.entries()[static_cast<std::size_t>(index.row())]);
+    bool const spoken = role == Qt::AccessibleTextRole;
+    if ((role != Qt::DisplayRole && !spoken) || index.row() >= m_list.count()) return {};
+    QString const entry = to_qt(m_list.entries()[static_cast<std::size_t>(index.row())]);
+    return spoken && entry.trimmed().isEmpty() ? QStringLiteral("(ligne vide)") : entry;
 }
 
 ListView::ListView(Session& session, screen::List& list, QWidget& parent)

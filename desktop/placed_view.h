@@ -6,6 +6,7 @@
 #include "desktop/control_view.h"
 #include "desktop/gestures.h"
 #include "desktop/session.h"
+#include "desktop/spoken.h"
 #include "desktop/to_qt.h"
 
 namespace navarun::desktop {
@@ -21,11 +22,12 @@ class PlacedView : public ControlView {
 
     void refresh() override {
         m_widget->setGeometry(place());
+        if (!m_control.Visible || !m_control.Enabled) let_go_of_keyboard();
         m_widget->setEnabled(m_control.Enabled);
         m_widget->setToolTip(plain_tooltip(m_control.ToolTipText.get()));
+        show_name(*m_widget, to_qt(m_control.SpokenName.get()));
         show_pointer();
         show_content();
-        if (!m_control.Visible) let_go_of_keyboard();
         // Last, so that nothing half made is seen.
         m_widget->setVisible(m_control.Visible);
     }
@@ -39,8 +41,8 @@ class PlacedView : public ControlView {
     W& shown() const { return *m_widget; }
 
   private:
-    // The toolkit would hand the keyboard of what is hidden to a neighbour, as if the user had
-    // moved it there.
+    // The toolkit would hand the keyboard of what is hidden or disabled to a neighbour, as if
+    // the user had moved it there.
     void let_go_of_keyboard() {
         auto* const keyboard = QApplication::focusWidget();
         if (keyboard == nullptr) return;

@@ -6,6 +6,7 @@
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QEventLoop>
+#include <QLabel>
 #include <QMessageBox>
 #include <QProcess>
 #include <QStandardPaths>
@@ -17,6 +18,7 @@
 #include "desktop/form_window.h"
 #include "desktop/outside_programs.h"
 #include "desktop/to_qt.h"
+#include "shell/spoken_names.h"
 
 namespace navarun::desktop {
 
@@ -69,6 +71,7 @@ void Session::act(std::function<void(screen::User&)> const& event) {
 
 void Session::show_changes() {
     if (m_exit_status) return;
+    follow_spoken_names(m_program.screen);
     for (auto* control : m_program.screen.take_changed()) {
         if (auto* const shown = window(control->form())) shown->show_control(*control);
     }
@@ -85,8 +88,12 @@ FormWindow* Session::window(screen::Form const& form) const {
 }
 
 screen::Control* Session::control_at(QPoint where) const {
-    for (QWidget* widget = QApplication::widgetAt(where); widget != nullptr;
-         widget = widget->parentWidget()) {
+    auto const* const widget = QApplication::widgetAt(where);
+    return widget == nullptr ? nullptr : control_of(*widget);
+}
+
+screen::Control* Session::control_of(QWidget const& inner) const {
+    for (QWidget const* widget = &inner; widget != nullptr; widget = widget->parentWidget()) {
         for (auto const& shown : m_windows) {
             if (auto* const control = shown->control_of(*widget)) return control;
         }
@@ -137,6 +144,10 @@ Answer Session::box(std::string_view title, std::string_view text, BoxButtons bu
     box.setIcon(question ? QMessageBox::Question : QMessageBox::Warning);
     box.setStandardButtons(question ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
     box.setDefaultButton(QMessageBox::Ok);
+    if (auto* const icon = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label"))) {
+        icon->setAccessibleName(question ? QStringLiteral("Question")
+                                         : QStringLiteral("Avertissement"));
+    }
     bool const agreed = box.exec() == QMessageBox::Ok;
     return agreed || !question ? Answer::ok : Answer::cancel;
 }

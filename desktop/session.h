@@ -35,6 +35,8 @@ class Session : public Platform {
     Pictures& pictures() { return m_pictures; }
     /// The control under a point of the screen; null where there is none.
     screen::Control* control_at(QPoint where) const;
+    /// The control that `widget` shows or stands in; null where there is none.
+    screen::Control* control_of(QWidget const& widget) const;
     /// The window of a form; null before it is first shown.
     FormWindow* window(screen::Form const& form) const;
     /// Set once the run is over: 0 by the program's own doing, 1 by a fatal error.

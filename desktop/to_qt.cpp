@@ -35,6 +35,12 @@ QColor to_qt(screen::Colour colour) {
     return Qt::white;
 }
 
+QColor deep_tone_on(QColor const& ground) {
+    constexpr int from_blue_to_mauve = 240;  // degrees of hue
+    return ground.hslHue() > from_blue_to_mauve ? QColor{0x4A, 0x14, 0x68}
+                                                : QColor{0x0B, 0x3A, 0x66};
+}
+
 QFont font_of(screen::TextControl const& control) {
     QFont font{to_qt(control.FontName.get())};
     font.setPixelSize(qRound(control.FontSize.get() * 4 / 3));

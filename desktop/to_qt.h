@@ -26,6 +26,9 @@ std::string from_qt(QString const& text);
 /// System colours take the light ones that the window is designed with, whatever the theme.
 QColor to_qt(screen::Colour colour);
 
+/// The tone of the line work that belongs to a window of that ground.
+QColor deep_tone_on(QColor const& ground);
+
 /// In pixels (points times 4/3), so that texts and boxes scale together.
 QFont font_of(screen::TextControl const& control);
 

@@ -20,15 +20,14 @@ virtual_display_packages=(
 test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     xvfb xdotool imagemagick openbox x11-utils
-    python3 lintian desktop-file-utils appstream groff libgtk-3-bin
+    lintian desktop-file-utils appstream groff libgtk-3-bin
+    at-spi2-core gir1.2-atspi-2.0 python3-gi python3 dbus-daemon
+    poppler-utils
 )
 
 long_test_packages=(
     clang libclang-rt-14-dev
 )
-
-# To read the documents back.
-test_packages+=(poppler-utils)
 
 # Installs those of the given packages that are not there; by sudo where this is not root.
 install_packages() {

@@ -31,6 +31,7 @@
 #include "readings/personality_report.h"
 #include "shell/about_box.h"
 #include "shell/image_store.h"
+#include "shell/spoken_names.h"
 #include "shell/tool_menus.h"
 #include "zodiac/solar_position.h"
 
@@ -68,6 +69,7 @@ Program::Program(Platform& platform_, std::filesystem::path application_folder_)
     wire_lords_listing(*this);
     wire_tool_menus(*this);
     wire_about_box(*this);
+    wire_spoken_names(*this);
 }
 
 void Program::start() {

@@ -23,6 +23,7 @@ Control::Control(Form& form, Control* container, Kind kind, std::string_view nam
     : Visible{*this, design.visible},
       Enabled{*this, design.enabled},
       Tag{*this, std::string{design.tag}},
+      SpokenName{*this, {}},
       m_form{&form},
       m_container{container},
       m_kind{kind},

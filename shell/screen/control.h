@@ -147,6 +147,10 @@ class Control {
     Property<bool> Visible;
     Property<bool> Enabled;
     Property<std::string> Tag;
+    /// What a screen reader says for the control; empty for what is there for the eye alone.
+    Property<std::string> SpokenName;
+    /// Composes SpokenName from what the window shows; empty where the name stays as it is.
+    std::function<std::string()> speak;
 
     std::function<void()> on_click;
     std::function<void()> on_double_click;

@@ -1,0 +1,323 @@
+// What the pointer does, done with the keyboard alone.
+#include <QApplication>
+#include <QClipboard>
+#include <QMenu>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QUrl>
+#include <set>
+
+#include "desktop/label_widget.h"
+#include "files/durable_file.h"
+#include "files/folders.h"
+#include "tests/desktop/window_fixture.h"
+
+namespace navarun::test {
+
+namespace {
+
+class Keyboard : public Window {
+  protected:
+    QWidget* keyboard() { return QApplication::focusWidget(); }
+
+    // Tab, until the keyboard is there; fails the test where it never comes.
+    void tab_to(screen::Control const& control) {
+        for (int pressed = 0; pressed < 100; ++pressed) {
+            if (keyboard() == shown(control)) return;
+            press(Qt::Key_Tab);
+        }
+        FAIL() << control.full_name() << " is not reached";
+    }
+
+    QWidget* shown(screen::Control const& control) {
+        return session().window(control.form())->widget(control);
+    }
+
+    void open(screen::Form& form) {
+        auto& opened = *session().window(form);
+        opened.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&opened));
+    }
+
+    void write_file_of(std::string const& path, std::string const& bytes) {
+        auto const file = session().program().path_of(path);
+        std::filesystem::create_directories(file.parent_path());
+        write_file(file, bytes, path);
+    }
+
+    std::string const& clipboard() {
+        m_clipboard = QApplication::clipboard()->text().toStdString();
+        return m_clipboard;
+    }
+
+  private:
+    std::string m_clipboard;
+};
+
+TEST_F(Keyboard, EveryControlThatAnswersToThePointerIsReached) {
+    std::set<QWidget*> visited;
+    press(Qt::Key_Tab);
+    for (QWidget* first = keyboard(); visited.empty() || keyboard() != first;) {
+        visited.insert(keyboard());
+        press(Qt::Key_Tab);
+        ASSERT_LE(visited.size(), 100U);
+    }
+    for (auto const* control : form().controls()) {
+        if (!control->can_be_used() || shown(*control) == nullptr) continue;
+        bool const answers =
+            control->on_click || control->on_double_click || control->takes_focus();
+        // Of an array one member is a stop, the arrows lead to the others.
+        bool const cell = control->index() && control->kind() == screen::Kind::label;
+        if (!answers || cell) continue;
+        EXPECT_TRUE(visited.contains(shown(*control))) << control->full_name();
+    }
+    EXPECT_LT(visited.size(), 50U) << "the cells of a row are one stop together";
+}
+
+TEST_F(Keyboard, BackTabGoesTheSameWayBack) {
+    std::vector<QWidget*> way;
+    for (int i = 0; i < 30; ++i) {
+        way.push_back(keyboard());
+        press(Qt::Key_Tab);
+    }
+    for (auto step = way.rbegin(); step != way.rend(); ++step) {
+        press(Qt::Key_Backtab, Qt::ShiftModifier);
+        ASSERT_EQ(keyboard(), *step) << keyboard()->objectName().toStdString();
+    }
+}
+
+TEST_F(Keyboard, ALabelTakesTheKeyboardWithoutTheFocusOfTheModel) {
+    click(form().Combo_moisNaiss);
+    type("1");
+    auto& label = widget(form().Label_zodiac);
+    label.setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(keyboard(), &label);
+    // A half typed month is completed when the field is left, and it has not been.
+    EXPECT_EQ(form().Combo_moisNaiss.Text.get(), "1");
+    EXPECT_EQ(session().program().screen.focus(), &form().Combo_moisNaiss);
+    session().act([&](screen::User&) { form().Label_Nak.Caption = "x"; });
+    EXPECT_EQ(keyboard(), &label) << "what changes elsewhere leaves the keyboard where it is";
+    press(Qt::Key_Escape);
+    EXPECT_EQ(keyboard(), &widget(form().Combo_moisNaiss));
+    EXPECT_EQ(form().Combo_moisNaiss.Text.get(), "1");
+}
+
+TEST_F(Keyboard, TheKeyboardFollowsAFocusThatTheProgramMoves) {
+    widget(form().Label_zodiac).setFocus(Qt::TabFocusReason);
+    session().act(
+        [&](screen::User&) { session().program().screen.move_focus(form().Text_Note); });
+    EXPECT_EQ(keyboard(), &widget(form().Text_Note));
+}
+
+TEST_F(Keyboard, EnterOnAMonthPicksItAndTheArrowsWalkTheRing) {
+    tab_to(form().Label_Dasha(1));
+    press(Qt::Key_Tab);
+    EXPECT_EQ(keyboard(), &widget(form().Label_mois(1)));
+    for (int const cell : {2, 3}) {
+        press(Qt::Key_Right);
+        EXPECT_EQ(keyboard(), &widget(form().Label_mois(cell))) << cell;
+    }
+    press(Qt::Key_Down);
+    EXPECT_EQ(keyboard(), &widget(form().Label_mois(4)));
+    press(Qt::Key_Left);
+    EXPECT_EQ(keyboard(), &widget(form().Label_mois(11))) << "across the free centre";
+    press(Qt::Key_Up);
+    EXPECT_EQ(keyboard(), &widget(form().Label_mois(12)));
+    press(Qt::Key_Return);
+    EXPECT_EQ(session().program().consultation.colonne_mois, 12);
+    EXPECT_EQ(keyboard(), &widget(form().Label_mois(12)));
+}
+
+TEST_F(Keyboard, TabStaysInTheCell) {
+    tab_to(form().Label_Dasha(1));
+    press(Qt::Key_Right);
+    press(Qt::Key_Tab);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(keyboard(), &widget(form().Label_Solaire(2)));
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(keyboard(), &widget(form().Label_mois(2)));
+}
+
+TEST_F(Keyboard, ShiftEnterIsTheDoubleClick) {
+    widget(form().Label_Solaire(10)).setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Return);
+    EXPECT_FALSE(form().Text_definition_palais.Visible);
+    press(Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_TRUE(form().Text_definition_palais.Visible);
+    press(Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_FALSE(form().Text_definition_palais.Visible);
+}
+
+TEST_F(Keyboard, AnAgeIsChosenAndItsWindowLeftByEscape) {
+    tab_to(form().Label_age);
+    press(Qt::Key_Return);
+    auto& chooser = session().program().choix_age;
+    ASSERT_TRUE(chooser.Visible);
+    open(chooser);
+    tab_to(chooser.Label2(1));
+    press(Qt::Key_Right);
+    press(Qt::Key_Down);
+    EXPECT_EQ(keyboard(), shown(chooser.Label2(12)));
+    EXPECT_EQ(chooser.Label_choix_age.Caption.get(), "12 ans") << "as under the pointer";
+    press(Qt::Key_Tab);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(keyboard(), shown(chooser.Image2));
+    press(Qt::Key_Space);
+    EXPECT_EQ(chooser.Label2(12).Caption.get(), "112");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(keyboard(), shown(chooser.Label2(12))) << "where the table was left";
+    press(Qt::Key_Return);
+    EXPECT_FALSE(chooser.Visible);
+    EXPECT_EQ(form().HScroll_age.Value.get(), 112);
+
+    open(form());
+    tab_to(form().Label_age);
+    press(Qt::Key_Return);
+    ASSERT_TRUE(chooser.Visible);
+    open(chooser);
+    tab_to(chooser.Label2(12));
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(chooser.Visible);
+    EXPECT_EQ(form().HScroll_age.Value.get(), 112);
+}
+
+TEST_F(Keyboard, ARecordIsMovedToTheOtherFolder) {
+    std::string const record = "\"A\",\"B\",\"01\",\"01\",\"19\",\"00\",0,\"\",\"\"\r\n";
+    write_file_of("RESSOURCES/DATA1/B A.fcy", record);
+    tab_to(form().Charge(1));
+    press(Qt::Key_Return);
+    ASSERT_TRUE(form().Frame_FileFichier.Visible);
+    widget(form().File_Fichier).setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Down);
+    ASSERT_EQ(form().File_Fichier.selected(), "B A.fcy");
+    press(Qt::Key_Control);
+    ASSERT_NE(session().program().screen.dragged(), nullptr);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(keyboard(), &widget(form().Charge(1)));
+    press(Qt::Key_Tab);
+    EXPECT_EQ(keyboard(), &widget(form().Charge(2)));
+    EXPECT_EQ(session().program().screen.focus(), &form().File_Fichier);
+    answer_next_box("OK");
+    press(Qt::Key_Return);
+    EXPECT_EQ(session().program().screen.dragged(), nullptr);
+    EXPECT_TRUE(FileExists(session().program().path_of("RESSOURCES/DATA2/B A.fcy")));
+    EXPECT_FALSE(FileExists(session().program().path_of("RESSOURCES/DATA1/B A.fcy")));
+}
+
+TEST_F(Keyboard, EscapeEndsTheDragAndGivesTheKeyboardBackToTheList) {
+    write_file_of("RESSOURCES/DATA1/B A.fcy",
+                  "\"A\",\"B\",\"01\",\"01\",\"19\",\"00\",0,\"\",\"\"\r\n");
+    click(form().Charge(1));
+    widget(form().File_Fichier).setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Down);
+    press(Qt::Key_Control);
+    press(Qt::Key_Tab);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(session().program().screen.dragged(), nullptr);
+    EXPECT_EQ(keyboard(), &widget(form().File_Fichier));
+    EXPECT_TRUE(FileExists(session().program().path_of("RESSOURCES/DATA1/B A.fcy")));
+}
+
+TEST_F(Keyboard, AnAddressIsOpenedByEnter) {
+    click(form().Bouton_Internet);
+    bool opened = false;
+    form().List_Internet.on_double_click = [&] { opened = true; };
+    widget(form().List_Internet).setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Down);
+    EXPECT_FALSE(opened);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(opened);
+}
+
+TEST_F(Keyboard, TheWidthOfAnArrowIsChosenByTheArrowsAndEnter) {
+    choose_menu(form().MnuFleche);
+    auto& window_of_arrows = session().program().fleche;
+    open(window_of_arrows);
+    shown(window_of_arrows.Picture1)->setFocus(Qt::TabFocusReason);
+    for (int i = 0; i < 10; ++i) press(Qt::Key_Up);
+    press(Qt::Key_Return);
+    EXPECT_EQ(session().program().arrow.epaisseur_fleche, 1);
+    for (int i = 0; i < 4; ++i) press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_GT(session().program().arrow.epaisseur_fleche, 1);
+}
+
+TEST_F(Keyboard, AColourOfTheArrowsIsChosen) {
+    choose_menu(form().MnuFleche);
+    auto& window_of_arrows = session().program().fleche;
+    open(window_of_arrows);
+    shown(window_of_arrows.Label_couleur(5))->setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Right);
+    press(Qt::Key_Down);
+    EXPECT_EQ(keyboard(), shown(window_of_arrows.Label_couleur(10)));
+    press(Qt::Key_Return);
+    EXPECT_EQ(session().program().arrow.couleur_fleche, screen::standard_colour(10));
+}
+
+TEST_F(Keyboard, TheDaysOfTheCalendarAreWalkedByTheArrows) {
+    choose_menu(form().MnuCalendrier);
+    auto& calendar = session().program().frm_calend;
+    open(calendar);
+    shown(calendar.btnJour(16))->setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Down);
+    EXPECT_EQ(keyboard(), shown(calendar.btnJour(23)));
+    press(Qt::Key_Left);
+    EXPECT_EQ(keyboard(), shown(calendar.btnJour(22)));
+    press(Qt::Key_Tab);
+    EXPECT_EQ(keyboard(), shown(calendar.chkWeek));
+}
+
+TEST_F(Keyboard, APictureCopiedElsewhereBecomesThePortrait) {
+    std::string const gif =
+        "GIF89a\x01\x01\x80\x01\xff\xff\xff!\xf9\x04\x01\n\x01,\x01\x01\x02\x02L\x01;";
+    TemporaryFolder elsewhere;
+    auto const file = elsewhere.path() / "texte.txt";
+    write_file(file, gif, "texte.txt");
+    auto* const copied = new QMimeData;
+    copied->setUrls({QUrl::fromLocalFile(QString::fromStdString(file.string()))});
+    QApplication::clipboard()->setMimeData(copied);
+    widget(form().Picture_PHOTO).setFocus(Qt::TabFocusReason);
+    press(Qt::Key_V, Qt::ControlModifier);
+    // It is no picture, and that is told.
+    EXPECT_EQ(form().Label_message.Caption.get(), "Ce fichier n'est pas une image !");
+}
+
+TEST_F(Keyboard, TextsThatAreOnlyReadCanBeCopied) {
+    auto& text = dynamic_cast<QPlainTextEdit&>(widget(form().Text_zodiac));
+    text.setFocus(Qt::TabFocusReason);
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(clipboard(), text.toPlainText().toStdString());
+    EXPECT_FALSE(clipboard().empty());
+    widget(form().Label_zodiac).setFocus(Qt::TabFocusReason);
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(clipboard(), "19 ° Arc");
+}
+
+TEST_F(Keyboard, ALabelOffersItsTextForCopying) {
+    auto& label = widget(form().Label_nomNakshatra);
+    QContextMenuEvent asked{QContextMenuEvent::Mouse, QPoint{4, 4},
+                            label.mapToGlobal(QPoint{4, 4})};
+    QApplication::sendEvent(&label, &asked);
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    ASSERT_EQ(menu->actions().size(), 1);
+    EXPECT_EQ(menu->actions().front()->text().remove(QLatin1Char('&')), "Copier");
+    menu->actions().front()->trigger();
+    menu->close();
+    EXPECT_EQ(clipboard(), form().Label_nomNakshatra.Caption.get());
+}
+
+TEST_F(Keyboard, TheNextWindowComesByF6) {
+    choose_menu(form().MnuCalendrier);
+    auto& calendar = *session().window(session().program().frm_calend);
+    open(form());
+    press(Qt::Key_F6);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&calendar));
+    press(Qt::Key_F6);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window()));
+}
+
+}  // namespace
+
+}  // namespace navarun::test

@@ -1,0 +1,127 @@
+"""A desk of its own for the program: a virtual screen, a window manager, a folder for the data.
+
+Whatever is started here is ended here. Nothing waits for a length of time: each wait is for
+something to be seen, with a patience that only a broken program exhausts.
+"""
+
+import contextlib
+import os
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+
+PATIENCE = 60  # seconds
+
+
+def wait_for(what, told):
+    """Calls `what` until it answers something, and returns that. Fails telling `told`."""
+    end = time.monotonic() + PATIENCE
+    while time.monotonic() < end:
+        found = what()
+        if found:
+            return found
+        time.sleep(0.05)
+    raise AssertionError(f"not seen: {told}")
+
+
+def _end(process):
+    if process.poll() is None:
+        process.send_signal(signal.SIGTERM)
+        try:
+            process.wait(10)
+        except subprocess.TimeoutExpired:
+            process.kill()
+            process.wait()
+
+
+class Desk:
+    """A virtual screen with a window manager; a context manager."""
+
+    def __init__(self, size="1280x1024"):
+        self.size = size
+        self._open = contextlib.ExitStack()
+
+    def __enter__(self):
+        self.folder = self._open.enter_context(tempfile.TemporaryDirectory(prefix="navarun-"))
+        reader, writer = os.pipe()
+        self._start(
+            ["Xvfb", "-displayfd", str(writer), "-screen", "0", self.size + "x24", "-nolisten", "tcp", "-noreset"],
+            dict(os.environ),
+            pass_fds=[writer],
+        )
+        os.close(writer)
+        number = b""
+        while not number.endswith(b"\n"):
+            byte = os.read(reader, 1)
+            assert byte, "the virtual screen did not start"
+            number += byte
+        os.close(reader)
+        self.environment = dict(
+            os.environ,
+            DISPLAY=":" + number.decode().strip(),
+            XDG_RUNTIME_DIR=self.folder,
+            HOME=self.folder,
+            QT_QPA_PLATFORM="xcb",
+            QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
+        )
+        self.environment.pop("WAYLAND_DISPLAY", None)
+        self._start(["openbox"], self.environment)
+        wait_for(
+            lambda: b"window id" in self.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"]),
+            "the window manager",
+        )
+        return self
+
+    def __exit__(self, *error):
+        self._open.close()
+
+    def _start(self, command, environment, **more):
+        process = subprocess.Popen(
+            command,
+            env=environment,
+            stdin=subprocess.DEVNULL,
+            stdout=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL,
+            **more,
+        )
+        self._open.callback(_end, process)
+        return process
+
+    def run(self, command):
+        """Runs a command to its end on this screen; its output."""
+        return subprocess.run(
+            command, env=self.environment, capture_output=True, timeout=PATIENCE
+        ).stdout
+
+    def start(self, program, **environment):
+        """Starts the program in a folder of its own; the process."""
+        place = tempfile.mkdtemp(dir=self.folder)
+        copy = shutil.copy(program, os.path.join(place, "navarun"))
+        return self._start([copy], dict(self.environment, **environment))
+
+    def end(self, process):
+        _end(process)
+
+    def type(self, text):
+        self.run(["xdotool", "type", "--delay", "20", text])
+
+    def press(self, *keys):
+        self.run(["xdotool", "key", "--delay", "20", *keys])
+
+    def windows(self, title):
+        """The visible windows of exactly that title, by their numbers."""
+        pattern = "^" + title.replace(".", r"\.") + "$"
+        found = self.run(["xdotool", "search", "--onlyvisible", "--name", pattern])
+        return found.decode().split()
+
+    def geometry(self, window):
+        """Left, top, width and height of a window without its frame, in pixels of the screen."""
+        lines = self.run(["xdotool", "getwindowgeometry", "--shell", window]).decode().split()
+        values = dict(line.split("=") for line in lines)
+        return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+
+    def picture(self, file, window="root"):
+        """Saves what a window shows."""
+        self.run(["import", "-window", window, file])

@@ -1,0 +1,123 @@
+#!/usr/bin/env python3
+"""The windows on a large and on a small screen, at one scale.
+
+usage: test_screens.py NAVARUN SCALE [FOLDER]
+
+On a screen that has the room the main window is exactly as large as it is designed, at the scale;
+on a smaller one it keeps within the screen, frame and all, and scrolls. So do the small windows.
+With FOLDER the pictures of the screens are kept there.
+"""
+
+import os
+import sys
+
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+from desk import Desk, wait_for
+
+DESIGNED = (801, 512)  # pixels at scale 1, without the menu bar
+MAIN = "N.A.V.A.R.U.N"
+# By the letters of the menus.
+SMALL_WINDOWS = {
+    "Calendrier": ("alt+o", "a"),
+    "Périodes": ("alt+a", "a"),
+    "  PALAIS DU DESTIN": ("alt+a", "p"),
+    "Flêche": ("alt+o", "d"),
+}
+
+
+def values(text, name):
+    line = next((line for line in text.decode().splitlines() if name in line), None)
+    return None if line is None else line.split()[-1]
+
+
+def client(desk, window):
+    """Left, top, width, height of a window without its frame."""
+    told = desk.run(["xwininfo", "-id", window])
+    found = [
+        values(told, name)
+        for name in ("Absolute upper-left X:", "Absolute upper-left Y:", "Width:", "Height:")
+    ]
+    return None if None in found else tuple(map(int, found))
+
+
+def framed(desk, window):
+    """The same with its frame; nothing as long as it has none."""
+    inner = client(desk, window)
+    told = desk.run(["xprop", "-id", window, "_NET_FRAME_EXTENTS"]).decode()
+    if inner is None or "=" not in told:
+        return None
+    left, right, top, bottom = (int(part) for part in told.split("=")[1].split(","))
+    return (
+        inner[0] - left,
+        inner[1] - top,
+        inner[2] + left + right,
+        inner[3] + top + bottom,
+    )
+
+
+def is_inside(desk, window, width, height):
+    place = framed(desk, window)
+    return (
+        place is not None
+        and place[0] >= 0
+        and place[1] >= 0
+        and place[0] + place[2] <= width
+        and place[1] + place[3] <= height
+    )
+
+
+def check(program, scale, width, height, pictures):
+    fits = width > DESIGNED[0] * scale + 20 and height > (DESIGNED[1] + 60) * scale + 20
+    with Desk(f"{width}x{height}") as desk:
+        desk.start(program, QT_SCALE_FACTOR=str(scale))
+
+        def shown(title):
+            return wait_for(lambda: desk.windows(title), f"{title} on the screen")[0]
+
+        def check_inside(title, window):
+            wait_for(
+                lambda: is_inside(desk, window, width, height),
+                f"{title} within {width}x{height} at {scale}; it is at {framed(desk, window)}",
+            )
+
+        main = shown(MAIN)
+        check_inside(MAIN, main)
+        _, _, client_width, client_height = client(desk, main)
+        if fits:
+            assert abs(client_width - DESIGNED[0] * scale) <= scale, client_width
+            assert client_height >= DESIGNED[1] * scale, client_height
+            assert client_height <= (DESIGNED[1] + 60) * scale, client_height
+        desk.run(["xdotool", "windowactivate", "--sync", main])
+
+        def is_painted():
+            colours = desk.run(["identify", "-format", "%k", picture(main)])
+            return int(colours or 0) > 50
+
+        def picture(window):
+            file = os.path.join(desk.folder, "window.png")
+            desk.picture(file, window)
+            return file
+
+        wait_for(is_painted, "something on the window")
+        for title, keys in SMALL_WINDOWS.items():
+            desk.run(["xdotool", "windowactivate", "--sync", main])
+            desk.press(*keys)
+            window = shown(title)
+            check_inside(title, window)
+            if pictures:
+                name = title.strip().replace(" ", "-")
+                desk.picture(f"{pictures}/{scale}-{width}-{name}.png")
+            desk.run(["xdotool", "windowactivate", "--sync", window])
+            desk.press("alt+F4")
+            wait_for(lambda: not desk.windows(title), f"{title} gone by Alt+F4")
+        if pictures:
+            desk.picture(f"{pictures}/{scale}-{width}.png")
+
+
+def run(program, scale, pictures=None):
+    number = float(scale)
+    check(program, number, round(1280 * number), round(900 * number), pictures)
+    check(program, number, 800, 480, pictures)
+
+
+run(*sys.argv[1:])
