@@ -10,6 +10,8 @@ namespace navarun {
 
 /// A day serial of the proleptic Gregorian calendar.
 using Date = std::chrono::sys_days;
+/// The same day in its three parts: quicker for a row of dates that are only written.
+using YearMonthDay = std::chrono::year_month_day;
 
 /// The day of `day`/`month`/`year`; a day beyond the end of its month is the month's last.
 /// No date where month is outside 1..12, day outside 1..31 or year outside 1..9999.
@@ -20,6 +22,7 @@ std::optional<Date> date_of(int day, int month, int year);
 std::optional<Date> read_date(std::string_view text);
 /// The date text: two, two and four digits.
 std::string write_date(Date date);
+std::string write_date(YearMonthDay date);
 
 int year_of(Date date);
 /// 1..12
@@ -32,6 +35,7 @@ int weekday_of(Date date);
 /// The calendar addition: the day of the month stays, clipped to the last day of the target
 /// month (29/02/1952 plus one year is 28/02/1953).
 Date add_months(Date date, int months);
+YearMonthDay add_months(YearMonthDay date, int months);
 Date add_years(Date date, int years);
 /// Whole days from `from` to `to`; negative where `to` lies before.
 int days_between(Date from, Date to);

@@ -165,11 +165,10 @@ bool equal_ignoring_case(std::string_view one, std::string_view other) {
 }
 
 int number_of(std::string_view text) {
+    // A sign is no digit, though the conversion would take one.
+    if (text.empty() || text.front() < '0' || text.front() > '9') return 0;
     int number = 0;
-    auto const end =
-        std::find_if(text.begin(), text.end(), [](char c) { return c < '0' || c > '9'; });
-    auto const digits = static_cast<std::size_t>(end - text.begin());
-    auto const [stop, error] = std::from_chars(text.data(), text.data() + digits, number);
+    auto const [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     return error == std::errc::result_out_of_range ? std::numeric_limits<int>::max() : number;
 }
 

@@ -107,7 +107,7 @@ void Seigneur_Mois(Program& program) {
     }
 
     consultation.colonne_age = cell_of_age(consultation.palais_index, periods.age_scroll);
-    auto const first_day = read_date(consultation.date_annee_courante);
+    std::optional<YearMonthDay> const first_day{read_date(consultation.date_annee_courante)};
     bool const shows_29th = is_leap_day(consultation.birth.date_naissance());
     int cell = consultation.colonne_age;
     for (auto const& name : periods.noms_mois) {
@@ -115,7 +115,8 @@ void Seigneur_Mois(Program& program) {
         form.Label_mois(cell).Caption = name;
         if (first_day) {
             std::string date = write_date(add_months(*first_day, periods.pas_mois));
-            form.Label_MoisDate(cell).Caption = shows_29th ? fevrier29(std::move(date)) : date;
+            if (shows_29th) date = fevrier29(std::move(date));
+            form.Label_MoisDate(cell).Caption = std::move(date);
         }
         ++periods.pas_mois;
         cell = cell_after(cell);
