@@ -15,8 +15,6 @@ using std::chrono::months;
 using std::chrono::year;
 using std::chrono::years;
 
-constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
-
 std::string_view without_blanks_at(std::string_view text, bool front, bool back) {
     while (front && !text.empty() && text.front() == ' ') text.remove_prefix(1);
     while (back && !text.empty() && text.back() == ' ') text.remove_suffix(1);
@@ -25,9 +23,12 @@ std::string_view without_blanks_at(std::string_view text, bool front, bool back)
 
 // A field of digits alone, of at most `digits` of them; -1 for anything else.
 int read_field(std::string_view text, std::size_t digits) {
-    if (text.empty() || text.size() > digits || !std::ranges::all_of(text, is_digit)) return -1;
+    if (text.empty() || text.size() > digits) return -1;
     int number = 0;
-    for (char const c : text) number = 10 * number + (c - '0');
+    for (char const c : text) {
+        if (c < '0' || c > '9') return -1;
+        number = 10 * number + (c - '0');
+    }
     return number;
 }
 
@@ -43,6 +44,14 @@ void put_digits(std::string& text, std::size_t at, std::size_t count, int number
     }
 }
 
+// The dates that the program wrote itself, which are nearly all that it reads: two, two and four
+// digits. Empty for any other wording.
+std::optional<Date> read_as_written(std::string_view text) {
+    if (text.size() != 10 || text[2] != '/' || text[5] != '/') return {};
+    return date_of(read_field(text.substr(0, 2), 2), read_field(text.substr(3, 2), 2),
+                   read_field(text.substr(6), 4));
+}
+
 }  // namespace
 
 std::optional<Date> date_of(int day_number, int month_number, int year_number) {
@@ -55,6 +64,7 @@ std::optional<Date> date_of(int day_number, int month_number, int year_number) {
 }
 
 std::optional<Date> read_date(std::string_view text) {
+    if (auto const date = read_as_written(text)) return date;
     auto const first = text.find('/');
     if (first == std::string_view::npos) return {};
     auto const second = text.find('/', first + 1);

@@ -66,6 +66,10 @@ void append(std::string& text, char32_t c) {
 char32_t take_character(std::string_view& rest) {
     auto const byte_at = [&](std::size_t i) { return static_cast<unsigned char>(rest[i]); };
     unsigned char const lead = byte_at(0);
+    if (lead < 0x80) {
+        rest.remove_prefix(1);
+        return lead;
+    }
     std::size_t bytes = 1;
     char32_t c = lead;
     char32_t least = 0;  // what a sequence of this length must reach
@@ -75,7 +79,7 @@ char32_t take_character(std::string_view& rest) {
         bytes = 3, c = lead & 0x0FU, least = 0x800;
     } else if (lead >= 0xC2 && lead < 0xE0) {
         bytes = 2, c = lead & 0x1FU, least = 0x80;
-    } else if (lead >= 0x80) {
+    } else {
         rest.remove_prefix(1);
         return replacement_character;
     }

@@ -40,7 +40,9 @@ std::optional<LalKitab> lal_kitab(int column, int age) {
     auto const& row = circle[static_cast<std::size_t>(circle_place(period.lord) - 1)];
     if (period.lord == Lord::Chandra) return LalKitab{"CHANDRA (1 / 1 an)", 0};
     bool const wide = sequence == wide_sequence && period.lord == wide_period;
-    std::string caption{row.capitals};
+    std::string caption;
+    caption.reserve(row.capitals.size() + std::string_view{" (1  / 3 ans)"}.size());
+    caption.append(row.capitals);
     caption.append(" (").append(std::to_string(period.rank)).append(wide ? "  / " : " / ");
     caption.append(std::to_string(period.years)).append(" ans)");
     return LalKitab{std::move(caption), period.rank};

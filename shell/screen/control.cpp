@@ -333,8 +333,8 @@ PictureBox::PictureBox(Form& form, std::string_view name, Design const& design,
       Picture{*this, design.picture},
       Border{*this, design.border} {}
 
-SurfacePicture& SurfacePicture::operator=(screen::Picture picture) {
-    m_picture = std::move(picture);
+SurfacePicture& SurfacePicture::operator=(screen::Picture const& picture) {
+    m_picture = picture;
     m_owner->m_persistent.clear();
     m_owner->m_rubber.clear();
     m_owner->m_painted.reset();

@@ -444,7 +444,7 @@ class SurfacePicture {
     SurfacePicture& operator=(SurfacePicture const&) = delete;
 
     screen::Picture const& get() const { return m_picture; }
-    SurfacePicture& operator=(screen::Picture picture);
+    SurfacePicture& operator=(screen::Picture const& picture);
 
   private:
     PictureBox* m_owner;
