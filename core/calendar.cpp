@@ -103,9 +103,10 @@ YearMonthDay add_months(YearMonthDay date, int count) {
     return clipped(date.year() / date.month() + months{count}, date.day());
 }
 
-Date add_years(Date date, int count) {
-    YearMonthDay const parts{date};
-    return clipped((parts.year() + years{count}) / parts.month(), parts.day());
+Date add_years(Date date, int count) { return add_years(YearMonthDay{date}, count); }
+
+YearMonthDay add_years(YearMonthDay date, int count) {
+    return clipped((date.year() + years{count}) / date.month(), date.day());
 }
 
 int days_between(Date from, Date to) { return static_cast<int>((to - from).count()); }

@@ -37,6 +37,7 @@ int weekday_of(Date date);
 Date add_months(Date date, int months);
 YearMonthDay add_months(YearMonthDay date, int months);
 Date add_years(Date date, int years);
+YearMonthDay add_years(YearMonthDay date, int years);
 /// Whole days from `from` to `to`; negative where `to` lies before.
 int days_between(Date from, Date to);
 

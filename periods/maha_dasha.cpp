@@ -1,6 +1,9 @@
 // Writing a sequence's step into the cells.
 #include "periods/maha_dasha.h"
 
+#include <optional>
+#include <utility>
+
 #include "core/text.h"
 #include "periods/current_period.h"
 #include "periods/cycle_lords.h"

@@ -12,9 +12,11 @@
 #include <QPushButton>
 #include <QScrollBar>
 
+#include <algorithm>
 #include <map>
 
 #include "shell/form1.h"
+#include "shell/screen/screen.h"
 
 namespace {
 

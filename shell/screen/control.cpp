@@ -10,9 +10,7 @@ namespace navarun::screen {
 
 namespace detail {
 
-void mark_changed(Control& owner) {
-    if (owner.m_marked) return;
-    owner.m_marked = true;
+void list_as_changed(Control& owner) {
     owner.form().screen().m_changed.push_back(&owner);
 }
 

@@ -112,6 +112,11 @@ class PropertyVisitor {
     virtual void property(std::string_view name, ValueView value) = 0;
 };
 
+namespace detail {
+/// Adds `owner` to the changed controls of its screen.
+void list_as_changed(Control& owner);
+}  // namespace detail
+
 /// A field of a window: its name, what all kinds share, and its events.
 ///
 /// Events are empty until the subsystem that answers them ties itself to them; an empty event
@@ -176,6 +181,13 @@ class Control {
     std::string_view m_name;
     std::optional<int> m_index;
 };
+
+inline void detail::mark_changed(Control& owner) {
+    // A calculation writes most controls several times: it is the first that counts.
+    if (owner.m_marked) return;
+    owner.m_marked = true;
+    list_as_changed(owner);
+}
 
 /// A control with a place on its window.
 class PlacedControl : public Control {
