@@ -35,7 +35,6 @@ FormWindow::FormWindow(Session& session, screen::Form& form)
     make_views();
     make_timers();
     chain_tab_order();
-    show_form();
 }
 
 FormWindow::~FormWindow() = default;

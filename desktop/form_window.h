@@ -15,6 +15,7 @@ class Session;
 
 class FormWindow : public QMainWindow {
   public:
+    /// Makes the widgets; the window shows with the first show_control() of its form.
     FormWindow(Session& session, screen::Form& form);
     ~FormWindow() override;
 
