@@ -1,5 +1,5 @@
 # The Debian packages that the house needs, and how to install those that are missing.
-# Sourced by ./run and ./test.
+# Sourced by ./run, ./test and ./benchmark.
 
 build_packages=(
     g++ cmake ninja-build ccache
@@ -14,8 +14,13 @@ virtual_display_packages=(
     xvfb xdotool imagemagick
 )
 test_packages=(
-    libgtest-dev libgmock-dev libbenchmark-dev
+    libgtest-dev libgmock-dev libbenchmark-dev libxcb1-dev
     xvfb xdotool imagemagick openbox
+)
+
+bench_packages=(
+    libbenchmark-dev libxcb1-dev binutils
+    xvfb
 )
 
 long_test_packages=(

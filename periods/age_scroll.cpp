@@ -88,9 +88,9 @@ void defile_MahaDasha(Program& program) {
     auto const& consultation = program.consultation;
     auto const column = sequence_of_mansion(consultation.numero_nakshatra);
     if (!column) return;
-    auto label = lal_kitab(*column, consultation.age_courant);
-    if (!label) return;
-    program.form1.Label_Lal_Kitab.Caption = std::move(label->caption);
+    auto const* const label = lal_kitab(*column, consultation.age_courant);
+    if (label == nullptr) return;
+    program.form1.Label_Lal_Kitab.Caption = label->caption;
     program.periods.pas_defile = label->year_rank;
 }
 

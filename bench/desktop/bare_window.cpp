@@ -1,6 +1,7 @@
 // The floor of a start: a window of the toolkit's ordinary widgets, as many of each kind and as
-// large as the program's main window has, each with its text. No logic, no pictures, no colours,
-// no fonts but the toolkit's own.
+// large as the program's main window has. The labels that get their texts from a calculation
+// show a word of the length of a lord's name. No logic, no pictures, no colours, no fonts but the
+// toolkit's own.
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
@@ -28,9 +29,11 @@ QString to_qt(std::string const& text) { return QString::fromStdString(text); }
 
 QWidget* make_widget(screen::PlacedControl const& control, QWidget* parent) {
     switch (control.kind()) {
-        case screen::Kind::label:
-            return new QLabel{to_qt(static_cast<screen::Label const&>(control).Caption.get()),
+        case screen::Kind::label: {
+            auto const& caption = static_cast<screen::Label const&>(control).Caption.get();
+            return new QLabel{caption.empty() ? QStringLiteral("Shukra") : to_qt(caption),
                               parent};
+        }
         case screen::Kind::text_field:
             return new QLineEdit{
                 to_qt(static_cast<screen::TextField const&>(control).Text.get()), parent};

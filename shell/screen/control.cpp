@@ -18,14 +18,14 @@ void list_as_changed(Control& owner) {
 
 Control::Control(Form& form, Control* container, Kind kind, std::string_view name,
                  std::optional<int> index, Design const& design)
-    : Visible{*this, design.visible},
-      Enabled{*this, design.enabled},
-      Tag{*this, std::string{design.tag}},
-      m_form{&form},
+    : m_form{&form},
       m_container{container},
       m_kind{kind},
       m_name{name},
-      m_index{index} {
+      m_index{index},
+      Visible{*this, design.visible},
+      Enabled{*this, design.enabled},
+      Tag{*this, std::string{design.tag}} {
     if (kind != Kind::form) form.m_controls.push_back(this);
 }
 

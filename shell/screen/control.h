@@ -148,6 +148,19 @@ class Control {
 
     virtual void visit(PropertyVisitor& visitor) const;
 
+  private:
+    friend class Screen;
+    friend void detail::mark_changed(Control& owner);
+
+    // Beside the properties, before the events: what every write touches lies together.
+    Form* m_form;
+    Control* m_container;
+    Kind m_kind;
+    bool m_marked = false;
+    std::string_view m_name;
+    std::optional<int> m_index;
+
+  public:
     Property<bool> Visible;
     Property<bool> Enabled;
     Property<std::string> Tag;
@@ -169,17 +182,6 @@ class Control {
     std::function<void()> on_drag_drop;
     /// A file is dropped from outside.
     std::function<void(std::string const& path)> on_file_drop;
-
-  private:
-    friend class Screen;
-    friend void detail::mark_changed(Control& owner);
-
-    Form* m_form;
-    Control* m_container;
-    Kind m_kind;
-    bool m_marked = false;
-    std::string_view m_name;
-    std::optional<int> m_index;
 };
 
 inline void detail::mark_changed(Control& owner) {
