@@ -106,7 +106,7 @@ void load_chart(Program& program) {
             "L'image du thème numéro " + std::to_string(scheme) + " a été demandée.",
             "Il n'y a que quatre thèmes, de 0 à 3. Au prochain lancement le thème sera Azur."};
     }
-    program.form1.Picture_KUNDALI.Picture = screen::Picture{"Image_Kundali", scheme};
+    program.form1.Picture_KUNDALI.Picture = picture::charts[static_cast<std::size_t>(scheme)];
 }
 
 void Choix_Couleur_Kundali(Program& program) {

@@ -13,10 +13,7 @@ using std::chrono::day;
 using std::chrono::month;
 using std::chrono::months;
 using std::chrono::year;
-using std::chrono::year_month_day;
 using std::chrono::years;
-
-constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
 std::string_view without_blanks_at(std::string_view text, bool front, bool back) {
     while (front && !text.empty() && text.front() == ' ') text.remove_prefix(1);
@@ -26,11 +23,16 @@ std::string_view without_blanks_at(std::string_view text, bool front, bool back)
 
 // A field of digits alone, of at most `digits` of them; -1 for anything else.
 int read_field(std::string_view text, std::size_t digits) {
-    if (text.empty() || text.size() > digits || !std::ranges::all_of(text, is_digit)) return -1;
-    return text::number_of(text);
+    if (text.empty() || text.size() > digits) return -1;
+    int number = 0;
+    for (char const c : text) {
+        if (c < '0' || c > '9') return -1;
+        number = 10 * number + (c - '0');
+    }
+    return number;
 }
 
-Date clipped(std::chrono::year_month in_month, day wanted) {
+YearMonthDay clipped(std::chrono::year_month in_month, day wanted) {
     auto const last = std::chrono::year_month_day_last{
         in_month.year(), std::chrono::month_day_last{in_month.month()}};
     return in_month / std::min(wanted, last.day());
@@ -40,6 +42,14 @@ void put_digits(std::string& text, std::size_t at, std::size_t count, int number
     for (std::size_t i = count; i-- > 0; number /= 10) {
         text[at + i] = static_cast<char>('0' + number % 10);
     }
+}
+
+// The dates that the program wrote itself, which are nearly all that it reads: two, two and four
+// digits. Empty for any other wording.
+std::optional<Date> read_as_written(std::string_view text) {
+    if (text.size() != 10 || text[2] != '/' || text[5] != '/') return {};
+    return date_of(read_field(text.substr(0, 2), 2), read_field(text.substr(3, 2), 2),
+                   read_field(text.substr(6), 4));
 }
 
 }  // namespace
@@ -54,6 +64,7 @@ std::optional<Date> date_of(int day_number, int month_number, int year_number) {
 }
 
 std::optional<Date> read_date(std::string_view text) {
+    if (auto const date = read_as_written(text)) return date;
     auto const first = text.find('/');
     if (first == std::string_view::npos) return {};
     auto const second = text.find('/', first + 1);
@@ -66,33 +77,46 @@ std::optional<Date> read_date(std::string_view text) {
                    read_field(year_text, 4));
 }
 
-std::string write_date(Date date) {
-    year_month_day const parts{date};
+std::string write_date(Date date) { return write_date(YearMonthDay{date}); }
+
+std::string write_date(YearMonthDay date) {
     std::string text = "00/00/0000";
-    put_digits(text, 0, 2, static_cast<int>(unsigned{parts.day()}));
-    put_digits(text, 3, 2, static_cast<int>(unsigned{parts.month()}));
-    put_digits(text, 6, 4, int{parts.year()});
+    put_digits(text, 0, 2, static_cast<int>(unsigned{date.day()}));
+    put_digits(text, 3, 2, static_cast<int>(unsigned{date.month()}));
+    put_digits(text, 6, 4, int{date.year()});
     return text;
 }
 
-int year_of(Date date) { return int{year_month_day{date}.year()}; }
+int year_of(Date date) { return int{YearMonthDay{date}.year()}; }
 
-int month_of(Date date) { return static_cast<int>(unsigned{year_month_day{date}.month()}); }
+int month_of(Date date) { return static_cast<int>(unsigned{YearMonthDay{date}.month()}); }
 
-int day_of(Date date) { return static_cast<int>(unsigned{year_month_day{date}.day()}); }
+int day_of(Date date) { return static_cast<int>(unsigned{YearMonthDay{date}.day()}); }
 
 int weekday_of(Date date) {
     return static_cast<int>(std::chrono::weekday{date}.c_encoding()) + 1;
 }
 
-Date add_months(Date date, int count) {
-    year_month_day const parts{date};
-    return clipped(parts.year() / parts.month() + months{count}, parts.day());
+Date add_months(Date date, int count) { return add_months(YearMonthDay{date}, count); }
+
+YearMonthDay add_months(YearMonthDay date, int count) {
+    return clipped(date.year() / date.month() + months{count}, date.day());
 }
 
-Date add_years(Date date, int count) {
-    year_month_day const parts{date};
-    return clipped((parts.year() + years{count}) / parts.month(), parts.day());
+Date add_years(Date date, int count) { return add_years(YearMonthDay{date}, count); }
+
+YearMonthDay add_years(YearMonthDay date, int count) {
+    return clipped((date.year() + years{count}) / date.month(), date.day());
+}
+
+std::array<std::string, 12> dates_of_steps(YearMonthDay first, int months_a_step) {
+    std::array<std::string, 12> texts;
+    int months_passed = 0;
+    for (auto& text : texts) {
+        text = write_date(add_months(first, months_passed));
+        months_passed += months_a_step;
+    }
+    return texts;
 }
 
 int days_between(Date from, Date to) { return static_cast<int>((to - from).count()); }

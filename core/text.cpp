@@ -66,6 +66,10 @@ void append(std::string& text, char32_t c) {
 char32_t take_character(std::string_view& rest) {
     auto const byte_at = [&](std::size_t i) { return static_cast<unsigned char>(rest[i]); };
     unsigned char const lead = byte_at(0);
+    if (lead < 0x80) {
+        rest.remove_prefix(1);
+        return lead;
+    }
     std::size_t bytes = 1;
     char32_t c = lead;
     char32_t least = 0;  // what a sequence of this length must reach
@@ -75,7 +79,7 @@ char32_t take_character(std::string_view& rest) {
         bytes = 3, c = lead & 0x0FU, least = 0x800;
     } else if (lead >= 0xC2 && lead < 0xE0) {
         bytes = 2, c = lead & 0x1FU, least = 0x80;
-    } else if (lead >= 0x80) {
+    } else {
         rest.remove_prefix(1);
         return replacement_character;
     }
@@ -165,11 +169,10 @@ bool equal_ignoring_case(std::string_view one, std::string_view other) {
 }
 
 int number_of(std::string_view text) {
+    // A sign is no digit, though the conversion would take one.
+    if (text.empty() || text.front() < '0' || text.front() > '9') return 0;
     int number = 0;
-    auto const end =
-        std::find_if(text.begin(), text.end(), [](char c) { return c < '0' || c > '9'; });
-    auto const digits = static_cast<std::size_t>(end - text.begin());
-    auto const [stop, error] = std::from_chars(text.data(), text.data() + digits, number);
+    auto const [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     return error == std::errc::result_out_of_range ? std::numeric_limits<int>::max() : number;
 }
 

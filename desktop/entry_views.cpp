@@ -53,6 +53,18 @@ class KeyPressFilter : public QObject {
     screen::EntryControl& m_control;
 };
 
+// A date field whose list is as wide as its entries, though the field is not. The list is made
+// when it is first opened.
+class DateBox : public QComboBox {
+  public:
+    using QComboBox::QComboBox;
+
+    void showPopup() override {
+        view()->setMinimumWidth(view()->sizeHintForColumn(0) + 32);
+        QComboBox::showPopup();
+    }
+};
+
 // A date field takes digits, one at a time, and nothing else: the model edits, the widget
 // shows.
 class DateKeys : public QObject {
@@ -207,7 +219,7 @@ void TextAreaView::show_content() {
 }
 
 ComboView::ComboView(Session& session, screen::Combo& combo, QWidget& parent)
-    : PlacedView{session, combo, new QComboBox{&parent}} {
+    : PlacedView{session, combo, new DateBox{&parent}} {
     auto& box = shown();
     box.setEditable(true);
     box.setCompleter(nullptr);
@@ -218,7 +230,6 @@ ComboView::ComboView(Session& session, screen::Combo& combo, QWidget& parent)
     box.lineEdit()->setAcceptDrops(false);
     box.lineEdit()->setDragEnabled(false);
     for (auto const& entry : combo.entries()) box.addItem(to_qt(entry));
-    box.view()->setMinimumWidth(box.view()->sizeHintForColumn(0) + 32);
     new DateKeys{session, combo, box};
     tell_focus(session, combo, box);
     QObject::connect(&box, &QComboBox::activated, &box, [this](int entry) {

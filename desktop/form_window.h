@@ -19,6 +19,7 @@ class Session;
 
 class FormWindow : public QMainWindow {
   public:
+    /// Makes the widgets; the window shows with the first show_control() of its form.
     FormWindow(Session& session, screen::Form& form);
     ~FormWindow() override;
 
@@ -46,6 +47,7 @@ class FormWindow : public QMainWindow {
     bool focusNextPrevChild(bool next) override;
 
   private:
+    void draw_pictures_ahead();
     void make_views();
     void make_timers();
     void make_shortcuts();

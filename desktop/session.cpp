@@ -42,9 +42,6 @@ Session::Session(std::filesystem::path application_folder, std::function<void()>
 Session::~Session() = default;
 
 void Session::start() {
-    for (auto* form : m_program.screen.forms()) {
-        m_windows.push_back(std::make_unique<FormWindow>(*this, *form));
-    }
     try {
         m_program.start();
     } catch (ProgramEnded const&) {
@@ -75,9 +72,20 @@ void Session::show_changes() {
     for (auto* control : m_program.screen.take_changed()) {
         if (auto* const shown = window(control->form())) shown->show_control(*control);
     }
+    show_new_windows();
     m_drag_mode.follow_model();
     if (auto* const focused = m_program.screen.focus()) {
         if (auto* const shown = window(focused->form())) shown->show_focus(*focused);
+    }
+}
+
+// Most windows are never opened: each is made when it is first shown, from what then stands in
+// its fields.
+void Session::show_new_windows() {
+    for (auto* form : m_program.screen.forms()) {
+        if (!form->Visible || window(*form) != nullptr) continue;
+        m_windows.push_back(std::make_unique<FormWindow>(*this, *form));
+        m_windows.back()->show_control(*form);
     }
 }
 

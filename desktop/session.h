@@ -59,6 +59,7 @@ class Session : public Platform {
     bool key_is_held(int code) override;
 
   private:
+    void show_new_windows();
     void end(int exit_status);
 
     Pictures m_pictures;

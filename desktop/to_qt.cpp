@@ -1,6 +1,8 @@
 // The conversions.
 #include "desktop/to_qt.h"
 
+#include <QFontDatabase>
+#include <QHash>
 #include <QTextDocument>
 
 namespace navarun::desktop {
@@ -41,8 +43,26 @@ QColor deep_tone_on(QColor const& ground) {
                                                 : QColor{0x0B, 0x3A, 0x66};
 }
 
+namespace {
+
+// The font itself or, where it is not installed, its stand-in: under one name the fonts that
+// look the same are looked up and loaded once.
+QString installed_family(QString const& name) {
+    static QHash<QString, QString> known;
+    auto& family = known[name];
+    if (!family.isEmpty()) return family;
+    family = name;
+    if (QFontDatabase::hasFamily(name)) return family;
+    for (auto const& stand_in : QFont::substitutes(name)) {
+        if (QFontDatabase::hasFamily(stand_in)) return family = stand_in;
+    }
+    return family;
+}
+
+}  // namespace
+
 QFont font_of(screen::TextControl const& control) {
-    QFont font{to_qt(control.FontName.get())};
+    QFont font{installed_family(to_qt(control.FontName.get()))};
     font.setPixelSize(qRound(control.FontSize.get() * 4 / 3));
     font.setBold(control.FontBold);
     font.setItalic(control.FontItalic);

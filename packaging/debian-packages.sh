@@ -1,5 +1,5 @@
 # The Debian packages that the house needs, and how to install those that are missing.
-# Sourced by ./run, ./test and packaging/package.
+# Sourced by ./run, ./test, ./benchmark and packaging/package.
 
 build_packages=(
     g++ cmake ninja-build ccache
@@ -18,11 +18,16 @@ virtual_display_packages=(
     xvfb xdotool imagemagick
 )
 test_packages=(
-    libgtest-dev libgmock-dev libbenchmark-dev
+    libgtest-dev libgmock-dev libbenchmark-dev libxcb1-dev
     xvfb xdotool imagemagick openbox x11-utils
     lintian desktop-file-utils appstream groff libgtk-3-bin
     at-spi2-core gir1.2-atspi-2.0 python3-gi python3 dbus-daemon
     poppler-utils
+)
+
+bench_packages=(
+    libbenchmark-dev libxcb1-dev binutils
+    xvfb
 )
 
 long_test_packages=(

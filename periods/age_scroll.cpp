@@ -1,6 +1,9 @@
 // The age bar and the state of the grid.
 #include "periods/age_scroll.h"
 
+#include <optional>
+#include <utility>
+
 #include "core/generate.h"
 #include "core/text.h"
 #include "periods/lal_kitab.h"
@@ -48,7 +51,7 @@ void follow_first_day(Program& program) {
     auto const first_day = read_date(form.Label_anneedefile.Caption.get());
     if (!first_day) return;
     end = *first_day - std::chrono::days{1};
-    form.Label_anneedefile_Suite.Caption = write_date(add_years(*end, 1));
+    form.Label_anneedefile_Suite.Caption = write_date(add_years(YearMonthDay{*end}, 1));
 }
 
 void HScroll_age_change(Program& program) {
@@ -61,7 +64,7 @@ void HScroll_age_change(Program& program) {
     program.periods.age_scroll = age;
     consultation.age_courant = age;
     birth.rebuild_date_naissance();
-    if (auto const date = read_date(birth.date_naissance())) {
+    if (std::optional<YearMonthDay> const date{read_date(birth.date_naissance())}) {
         form.Label_anneedefile.Caption = write_date(add_years(*date, age));
         follow_first_day(program);
     }
@@ -85,8 +88,8 @@ void defile_MahaDasha(Program& program) {
     auto const& consultation = program.consultation;
     auto const column = sequence_of_mansion(consultation.numero_nakshatra);
     if (!column) return;
-    auto const label = lal_kitab(*column, consultation.age_courant);
-    if (!label) return;
+    auto const* const label = lal_kitab(*column, consultation.age_courant);
+    if (label == nullptr) return;
     program.form1.Label_Lal_Kitab.Caption = label->caption;
     program.periods.pas_defile = label->year_rank;
 }

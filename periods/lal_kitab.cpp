@@ -28,22 +28,43 @@ constexpr Lord wide_period = Lord::Shukra;
 
 constexpr int greatest_tabulated_age = greatest_age + 1;
 
+constexpr std::size_t longest_period = 6;  // years
+
+// By the place of the period in the circle and the rank of the year in it, both from 0. They
+// are few and the age bar runs through them: each is written once.
+using Captions = std::array<std::array<LalKitab, longest_period>, circle.size()>;
+
+Captions captions_with(std::string_view stroke) {
+    Captions captions;
+    for (std::size_t place = 0; place < circle.size(); ++place) {
+        auto const& row = circle[place];
+        for (int rank = 1; rank <= row.years; ++rank) {
+            auto& [caption, year_rank] = captions[place][static_cast<std::size_t>(rank - 1)];
+            caption.append(row.capitals).append(" (").append(std::to_string(rank));
+            caption.append(stroke).append(std::to_string(row.years));
+            caption.append(row.lord == Lord::Chandra ? " an)" : " ans)");
+            year_rank = row.lord == Lord::Chandra ? 0 : rank;
+        }
+    }
+    return captions;
+}
+
 }  // namespace
 
-std::optional<LalKitab> lal_kitab(int column, int age) {
-    if (age < 1 || age > greatest_tabulated_age) return {};
+LalKitab const* lal_kitab(int column, int age) {
+    static Captions const captions = captions_with(" / ");
+    static Captions const wide_captions = captions_with("  / ");
+    if (age < 1 || age > greatest_tabulated_age) return nullptr;
     Lord const sequence = circle.at(static_cast<std::size_t>(column - 1)).lord;
     for (auto const& gap : ages_without_a_case) {
-        if (gap.sequence == sequence && gap.first_age <= age && age <= gap.last_age) return {};
+        if (gap.sequence == sequence && gap.first_age <= age && age <= gap.last_age) {
+            return nullptr;
+        }
     }
     Period const period = period_at(column, age);
-    auto const& row = circle[static_cast<std::size_t>(circle_place(period.lord) - 1)];
-    if (period.lord == Lord::Chandra) return LalKitab{"CHANDRA (1 / 1 an)", 0};
+    auto const place = static_cast<std::size_t>(circle_place(period.lord) - 1);
     bool const wide = sequence == wide_sequence && period.lord == wide_period;
-    std::string caption{row.capitals};
-    caption.append(" (").append(std::to_string(period.rank)).append(wide ? "  / " : " / ");
-    caption.append(std::to_string(period.years)).append(" ans)");
-    return LalKitab{std::move(caption), period.rank};
+    return &(wide ? wide_captions : captions)[place][static_cast<std::size_t>(period.rank - 1)];
 }
 
 }  // namespace navarun

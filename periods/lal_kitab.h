@@ -1,7 +1,6 @@
 // The caption that tells which lord rules an age and which of his years it is.
 #pragma once
 
-#include <optional>
 #include <string>
 
 namespace navarun {
@@ -12,7 +11,7 @@ struct LalKitab {
 };
 
 /// @param column  the sequence, 1..9
-/// @return empty where the sequence has no case for `age`. Age 351 is as age 1.
-std::optional<LalKitab> lal_kitab(int column, int age);
+/// @return null where the sequence has no case for `age`. Age 351 is as age 1.
+LalKitab const* lal_kitab(int column, int age);
 
 }  // namespace navarun

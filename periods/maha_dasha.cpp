@@ -1,6 +1,11 @@
 // Writing a sequence's step into the cells.
 #include "periods/maha_dasha.h"
 
+#include <array>
+#include <optional>
+#include <string>
+#include <utility>
+
 #include "core/text.h"
 #include "periods/current_period.h"
 #include "periods/cycle_lords.h"
@@ -19,8 +24,7 @@ void run_sequence(Program& program, int column, DashaStep const& step) {
     auto& consultation = program.consultation;
     auto& periods = program.periods;
     if (step.date_row) {
-        consultation.date_annee_courante =
-            periods.dates_age.at(static_cast<std::size_t>(*step.date_row - 1));
+        consultation.date_annee_courante = periods.dates_age(*step.date_row);
     }
     consultation.colonne_age_mod = cell_of_age(consultation.palais_index, step.column_age);
     if (step.assigned) periods.seigneur_dasha = number_of(*step.assigned);
@@ -29,18 +33,19 @@ void run_sequence(Program& program, int column, DashaStep const& step) {
 
     auto& start_text = consultation.date_annee_courante;
     if (repairs_leap_days(column) && is_leap_day(start_text)) start_text.replace(0, 2, "28");
-    auto const start = read_date(start_text);
+    std::optional<YearMonthDay> const start{read_date(start_text)};
     auto const name = program.name_of_lord(periods.seigneur_dasha);
     bool const shows_29th =
         repairs_leap_days(column) && is_leap_day(consultation.birth.date_naissance());
     int cell = consultation.colonne_age_mod;
-    for (int i = 0; i < 12; ++i, cell = cell_after(cell)) {
+    std::array<std::string, 12> dates;
+    if (start) dates = dates_of_steps(*start, step.months);
+    for (auto& date : dates) {
         form.Label_Dasha(cell).Caption = name;
-        if (start) {
-            std::string date = write_date(add_months(*start, periods.pas_mois));
-            form.Label_DashaDate(cell).Caption = shows_29th ? fevrier29(std::move(date)) : date;
-        }
+        if (shows_29th) date = fevrier29(std::move(date));
+        if (start) form.Label_DashaDate(cell).Caption = date;
         periods.pas_mois += step.months;
+        cell = cell_after(cell);
     }
 }
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "periods/lord_circle.h"
+#include "periods/dates_age.h"
 #include "shell/screen/colour.h"
 
 namespace navarun {
@@ -15,8 +15,7 @@ namespace navarun {
 inline constexpr screen::Colour couleur_actuelle{192, 64, 0};
 
 struct PeriodValues {
-    // The schedule of the person: the birthday of the year in which each period starts.
-    std::array<std::string, std::size_t{9} * nombre_cycles> dates_age;
+    DatesAge dates_age;  // the schedule of the person
 
     // The row of the periods.
     int seigneur_dasha = 0;  // lord last assigned by any sequence; never reset

@@ -47,6 +47,10 @@ inline constexpr std::array<StoredPicture, 20> image_store{{
 /// Names of the pictures that single lines of the program ask for.
 namespace picture {
 inline screen::Picture const hand_cursor{"Image_Curseur"};
+/// The chart, one for each colour scheme.
+inline std::array<screen::Picture, 4> const charts{
+    screen::Picture{"Image_Kundali", 0}, screen::Picture{"Image_Kundali", 1},
+    screen::Picture{"Image_Kundali", 2}, screen::Picture{"Image_Kundali", 3}};
 inline screen::Picture const ganesha{"Image_Ganesha"};
 inline screen::Picture const saved{"Diskette", 0};
 inline screen::Picture const unsaved{"Diskette", 1};

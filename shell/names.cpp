@@ -7,6 +7,7 @@
 #include <iterator>
 
 #include "core/weekdays.h"
+#include "periods/lord_circle.h"
 #include "periods/tri_deva_rule.h"
 #include "zodiac/mansions.h"
 #include "zodiac/palaces.h"
@@ -162,7 +163,7 @@ StateRow const state_rows[] = {
      [](Source const& s) { return ages_seigneurs(s.i, s.j); },
      {1, 90},
      {1, 9}},
-    {"dates_age", [](Source const& s) { return at(s.periods.dates_age, s.i - 1); }, {1, 90}},
+    {"dates_age", [](Source const& s) { return s.periods.dates_age(s.i); }, {1, 90}},
 
     {"seigneur_dasha", [](Source const& s) { return s.periods.seigneur_dasha; }},
     {"pas_mois", [](Source const& s) { return s.periods.pas_mois; }},

@@ -112,6 +112,10 @@ Option_impression::Option_impression(screen::Screen& screen_)
                       &Check_SeigneurMois, &Check_noteImprime, &Check_palaisDestin}) {
         box->Value.preset(1);
     }
+    // The bar last: who comes to it takes the list of periods off the page.
+    tab_order = {&Check_Mahadasha,    &Check_PhotoImprime, &Check_periode,
+                 &Check_SeigneurMois, &Check_noteImprime,  &Check_palaisDestin,
+                 &Image_Impression,   &Btn_remise1,        &HScroll_annee};
 }
 
 }  // namespace navarun

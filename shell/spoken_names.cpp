@@ -54,6 +54,8 @@ constexpr Name names[]{
     {"frmCalend",         "cAn",                    "Année"},
     {"frmCalend",         "txtDate",                "Date choisie"},
     {"Fleche",            "Frame1",                 "Réglages des flèches"},
+    {"Option_impression", "HScroll_annee",          "Âge au début des cinq ans"},
+    {"Option_impression", "Image_Impression",       "Imprime la page"},
 };
 // The standard colours of the arrows, in their order.
 constexpr std::array<std::string_view, 16> colour_names{

@@ -190,6 +190,9 @@ constexpr DayMonth day_after(DayMonth date) {
     return {1, date.month % 12 + 1};
 }
 
+// Grows with the days of a year.
+constexpr int place_in_year(DayMonth date) { return 31 * date.month + date.day; }
+
 // Every day of the year has its sign: each sign starts on the day after the one before it ends,
 // the first after the twelfth. No boundary lies at the end of February, so that leap years join
 // as well.
@@ -230,20 +233,18 @@ static_assert(every_era_is_whole());
 std::array<Era, 12> const eras = era_table;
 
 std::optional<SunSign> sun_sign(Date date, int year) {
+    YearMonthDay const day{date};
+    if (int{day.year()} != year) return {};
+    DayMonth const tested{static_cast<int>(unsigned{day.day()}),
+                          static_cast<int>(unsigned{day.month()})};
     for (auto const& era : eras) {
         if (year < era.first_year || year > era.last_year) continue;
-        auto const in_year = [&](DayMonth part) {
-            return *date_of(part.day, part.month, year);
-        };
         for (std::size_t i = 0; i < era.signs.size(); ++i) {
             auto const& dates = era.signs[i];
+            bool const begun = place_in_year(dates.first) <= place_in_year(tested);
+            bool const not_over = place_in_year(tested) <= place_in_year(dates.last);
             bool const crosses_new_year = dates.last.month < dates.first.month;
-            Date const first = in_year(dates.first);
-            Date const last = in_year(dates.last);
-            bool const inside = crosses_new_year
-                                    ? (first <= date && date <= in_year({31, 12})) ||
-                                          (in_year({1, 1}) <= date && date <= last)
-                                    : first <= date && date <= last;
+            bool const inside = crosses_new_year ? begun || not_over : begun && not_over;
             if (inside) return SunSign{static_cast<int>(i) + 1, dates};
         }
     }

@@ -22,13 +22,8 @@ void Nakshatra(Program& program) {
     form.Label_Nak.BackColor = lord.back;
     form.Label_Nak.ForeColor = lord.fore;
 
-    int const column = circle_place(found.lord);
-    std::string const birthday = consultation.birth.jour_mois_anniv() + "/";
-    auto& dates = program.periods.dates_age;
-    for (std::size_t i = 0; i < dates.size(); ++i) {
-        int const age = ages_seigneurs(static_cast<int>(i) + 1, column);
-        dates[i].assign(birthday).append(std::to_string(consultation.annee_calcul + age));
-    }
+    program.periods.dates_age = {consultation.birth.jour_mois_anniv(),
+                                 consultation.annee_calcul, circle_place(found.lord)};
 }
 
 }  // namespace navarun

@@ -1,7 +1,10 @@
 // The table of scenes. All persons are invented.
 #include "desktop/gallery/scenes.h"
 
+#include <stdexcept>
+
 #include "desktop/gallery/stage.h"
+#include "print/report.h"
 
 namespace navarun::gallery {
 
@@ -159,6 +162,36 @@ QPixmap calendar(Stage& stage) {
     return stage.picture(calendar);
 }
 
+void open_preview(Stage& stage) {
+    stage.consult_camille();
+    stage.type(stage.form().Text_Note,
+               "Première rencontre. Camille voudrait changer de métier ; le mois de Guru s'y "
+               "prête mieux que celui de Shani. Revoir ensemble le palais 7 au printemps.");
+    stage.click(stage.form().MnuApercu_Impression);
+}
+
+QPixmap preview(Stage& stage) {
+    open_preview(stage);
+    return stage.picture(stage.form());
+}
+
+QPixmap print_options(Stage& stage) {
+    open_preview(stage);
+    return stage.picture(stage.program().option_impression);
+}
+
+QPixmap printed_page(Stage& stage) {
+    open_preview(stage);
+    auto const page = PrintRoutine(stage.program(), 1);
+    if (!page) throw std::runtime_error{"no page"};
+    return stage.sheet(*page);
+}
+
+QPixmap about_box(Stage& stage) {
+    stage.click(stage.form().MnuPropos);
+    return stage.picture(stage.program().a_propos);
+}
+
 template <auto Entry>
 QPixmap menu(Stage& stage) {
     stage.consult_camille();
@@ -189,6 +222,10 @@ constexpr Scene all_scenes[] = {
     {"seigneur-jour", lord_of_the_day},
     {"palais-destin", palace_of_destiny},
     {"calendrier", calendar},
+    {"apercu", preview},
+    {"options-impression", print_options},
+    {"page-imprimee", printed_page},
+    {"a-propos", about_box},
     {"menu-menu", menu<&Form1::MnuBouton_Menu>},
     {"menu-impression", menu<&Form1::MnuBouton_impression>},
     {"menu-outils", menu<&Form1::MnuBouton_Outil>},

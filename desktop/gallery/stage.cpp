@@ -3,9 +3,11 @@
 
 #include <QApplication>
 #include <QMenu>
+#include <QPainter>
 #include <stdexcept>
 
 #include "desktop/form_window.h"
+#include "desktop/page_painter.h"
 #include "desktop/to_qt.h"
 
 namespace navarun::gallery {
@@ -63,6 +65,19 @@ QPixmap Stage::picture(screen::Form const& form) {
     window->activateWindow();
     QApplication::processEvents();
     return taken(window->grab());
+}
+
+QPixmap Stage::sheet(screen::Page const& page) {
+    constexpr double pixels_to_the_inch = 96;
+    double const scale = qApp->devicePixelRatio();
+    QSizeF const size = QSizeF{screen::a4.width, screen::a4.height} * pixels_to_the_inch;
+    QPixmap paper{(size * scale).toSize()};
+    paper.setDevicePixelRatio(scale);
+    paper.fill(Qt::white);
+    QPainter painter{&paper};
+    desktop::paint_page(painter, m_session.pictures(), page, pixels_to_the_inch,
+                        desktop::PageDevice::screen);
+    return paper;
 }
 
 QPixmap Stage::menu(screen::MenuEntry const& entry) {

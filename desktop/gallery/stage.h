@@ -34,6 +34,8 @@ class Stage {
 
     /// The window as it stands, in full also where the screen is smaller.
     QPixmap picture(screen::Form const& form);
+    /// A page on white A4 paper.
+    QPixmap sheet(screen::Page const& page);
     /// The menu that the entry opens.
     QPixmap menu(screen::MenuEntry const& entry);
     /// The question that `event` asks.

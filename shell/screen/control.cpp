@@ -10,25 +10,21 @@ namespace navarun::screen {
 
 namespace detail {
 
-void mark_changed(Control& owner) {
-    if (owner.m_marked) return;
-    owner.m_marked = true;
-    owner.form().screen().m_changed.push_back(&owner);
-}
+void list_as_changed(Control& owner) { owner.form().screen().m_changed.push_back(&owner); }
 
 }  // namespace detail
 
 Control::Control(Form& form, Control* container, Kind kind, std::string_view name,
                  std::optional<int> index, Design const& design)
-    : Visible{*this, design.visible},
-      Enabled{*this, design.enabled},
-      Tag{*this, std::string{design.tag}},
-      SpokenName{*this, {}},
-      m_form{&form},
+    : m_form{&form},
       m_container{container},
       m_kind{kind},
       m_name{name},
-      m_index{index} {
+      m_index{index},
+      Visible{*this, design.visible},
+      Enabled{*this, design.enabled},
+      Tag{*this, std::string{design.tag}},
+      SpokenName{*this, {}} {
     if (kind != Kind::form) form.m_controls.push_back(this);
 }
 
@@ -339,8 +335,8 @@ PictureBox::PictureBox(Form& form, std::string_view name, Design const& design,
       Picture{*this, design.picture},
       Border{*this, design.border} {}
 
-SurfacePicture& SurfacePicture::operator=(screen::Picture picture) {
-    m_picture = std::move(picture);
+SurfacePicture& SurfacePicture::operator=(screen::Picture const& picture) {
+    m_picture = picture;
     m_owner->m_persistent.clear();
     m_owner->m_rubber.clear();
     m_owner->m_painted.reset();

@@ -113,6 +113,11 @@ class PropertyVisitor {
     virtual void property(std::string_view name, ValueView value) = 0;
 };
 
+namespace detail {
+/// Adds `owner` to the changed controls of its screen.
+void list_as_changed(Control& owner);
+}  // namespace detail
+
 /// A field of a window: its name, what all kinds share, and its events.
 ///
 /// Events are empty until the subsystem that answers them ties itself to them; an empty event
@@ -144,6 +149,19 @@ class Control {
 
     virtual void visit(PropertyVisitor& visitor) const;
 
+  private:
+    friend class Screen;
+    friend void detail::mark_changed(Control& owner);
+
+    // Beside the properties, before the events: what every write touches lies together.
+    Form* m_form;
+    Control* m_container;
+    Kind m_kind;
+    bool m_marked = false;
+    std::string_view m_name;
+    std::optional<int> m_index;
+
+  public:
     Property<bool> Visible;
     Property<bool> Enabled;
     Property<std::string> Tag;
@@ -170,18 +188,14 @@ class Control {
     std::function<void()> on_drag_drop;
     /// A file is dropped from outside.
     std::function<void(std::string const& path)> on_file_drop;
-
-  private:
-    friend class Screen;
-    friend void detail::mark_changed(Control& owner);
-
-    Form* m_form;
-    Control* m_container;
-    Kind m_kind;
-    bool m_marked = false;
-    std::string_view m_name;
-    std::optional<int> m_index;
 };
+
+inline void detail::mark_changed(Control& owner) {
+    // A calculation writes most controls several times: it is the first that counts.
+    if (owner.m_marked) return;
+    owner.m_marked = true;
+    list_as_changed(owner);
+}
 
 /// A control with a place on its window.
 class PlacedControl : public Control {
@@ -452,7 +466,7 @@ class SurfacePicture {
     SurfacePicture& operator=(SurfacePicture const&) = delete;
 
     screen::Picture const& get() const { return m_picture; }
-    SurfacePicture& operator=(screen::Picture picture);
+    SurfacePicture& operator=(screen::Picture const& picture);
 
   private:
     PictureBox* m_owner;

@@ -1,6 +1,9 @@
 // A property of a control: a value that tells its control when it changes.
 #pragma once
 
+#include <string>
+#include <string_view>
+#include <type_traits>
 #include <utility>
 
 namespace navarun::screen {
@@ -9,7 +12,16 @@ class Control;
 
 namespace detail {
 /// Marks `owner` as changed for whoever shows it.
-void mark_changed(Control& owner);
+inline void mark_changed(Control& owner);
+
+template <typename T, typename U>
+bool same(T const& one, U const& other) {
+    return one == other;
+}
+/// As a view, so that a literal of another length costs no look at the characters.
+inline bool same(std::string const& one, char const* other) {
+    return one == std::string_view{other};
+}
 }  // namespace detail
 
 /// Reads like the value; writing it marks the control as changed where the value differs.
@@ -27,7 +39,7 @@ class Property {
     /// costs a comparison and no copy.
     template <typename U>
     requires(!std::is_same_v<std::remove_cvref_t<U>, Property>) Property& operator=(U&& value) {
-        if (!(m_value == value)) {
+        if (!detail::same(m_value, value)) {
             m_value = std::forward<U>(value);
             detail::mark_changed(*m_owner);
         }

@@ -44,7 +44,7 @@ class Screen {
 
   private:
     friend class Form;
-    friend void detail::mark_changed(Control& owner);
+    friend void detail::list_as_changed(Control& owner);
 
     std::vector<Form*> m_forms;
     std::vector<Control*> m_changed;

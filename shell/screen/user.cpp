@@ -159,19 +159,22 @@ void User::choose(Control& control, std::string_view entry) {
 void User::click(Control& control) {
     touch(control);
     // A click in a date field offers its whole text to the next digit.
-    if (auto* const combo = dynamic_cast<Combo*>(&control)) {
-        combo->select_all();
-        return;  // Click of a combo is the choice of an entry.
+    switch (control.kind()) {
+        case Kind::combo:  // Click of a combo is the choice of an entry.
+            static_cast<Combo&>(control).select_all();
+            break;
+        case Kind::check_box: {
+            auto& mark = static_cast<CheckBox&>(control).Value;
+            mark = 1 - mark;  // fires Click
+            break;
+        }
+        case Kind::option_button:
+            static_cast<OptionButton&>(control).Value = true;  // fires Click where not chosen
+            break;
+        default:
+            fire(control.on_click);
+            break;
     }
-    if (auto* const box = dynamic_cast<CheckBox*>(&control)) {
-        box->Value = 1 - box->Value;  // fires Click
-        return;
-    }
-    if (auto* const option = dynamic_cast<OptionButton*>(&control)) {
-        option->Value = true;  // fires Click where it was not chosen
-        return;
-    }
-    fire(control.on_click);
 }
 
 void User::double_click(Control& control) {

@@ -64,7 +64,7 @@ class Arrows : public Window {
 };
 
 TEST_F(Arrows, TheEntryOpensTheToolWindowAndBearsAMark) {
-    EXPECT_FALSE(tool().isVisible());
+    EXPECT_EQ(session().window(fleche()), nullptr) << "shown before anybody asked";
     open_tool();
     EXPECT_TRUE(tool().isVisible());
     EXPECT_EQ(tool().windowTitle(), QStringLiteral("Flêche"));

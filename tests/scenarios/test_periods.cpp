@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "periods/lord_circle.h"
 #include "periods/maha_dasha.h"
 #include "tests/scenarios/persons.h"
 #include "tests/support/visit.h"
@@ -127,7 +128,6 @@ TEST(Schedule, TheQuotedRowsOfAKujaSequence) {
     Visit visit;
     visit.type("Combo_jourNaiss", "15031970");
     auto& person = visit.program().consultation;
-    auto& dates = visit.program().periods.dates_age;
     auto const maha_dasha = [&](int age) {
         visit.set("HScroll_age", age);
         person.palais_index = 1;
@@ -144,7 +144,8 @@ TEST(Schedule, TheQuotedRowsOfAKujaSequence) {
     EXPECT_EQ(visit.cells("Label_Dasha", "Caption"), twelve("Shani"));
     auto const at_nine = visit.cells("Label_DashaDate", "Caption");
     // A later year takes its date from the schedule of the person, third period, first turn.
-    dates.at(20) = "15/03/1979";
+    visit.program().periods.dates_age = {"15/03", 1970, circle_place(Lord::Kuja)};
+    ASSERT_EQ(visit.text("dates_age(21)"), "15/03/1979");
     maha_dasha(10);
     EXPECT_EQ(visit.cells("Label_DashaDate", "Caption"), at_nine);
     EXPECT_EQ(visit.number("colonne_age_mod"), 9);
