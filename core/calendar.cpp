@@ -109,16 +109,6 @@ YearMonthDay add_years(YearMonthDay date, int count) {
     return clipped((date.year() + years{count}) / date.month(), date.day());
 }
 
-std::array<std::string, 12> dates_of_steps(YearMonthDay first, int months_a_step) {
-    std::array<std::string, 12> texts;
-    int months_passed = 0;
-    for (auto& text : texts) {
-        text = write_date(add_months(first, months_passed));
-        months_passed += months_a_step;
-    }
-    return texts;
-}
-
 int days_between(Date from, Date to) { return static_cast<int>((to - from).count()); }
 
 bool is_leap_day(std::string_view date_text) { return date_text.starts_with("29/02"); }
