@@ -44,8 +44,8 @@ void put_digits(std::string& text, std::size_t at, std::size_t count, int number
     }
 }
 
-// The dates that the program wrote itself, which are nearly all that it reads: two, two and four
-// digits. Empty for any other wording.
+// The dates that the program wrote itself, which are nearly all that it reads: two, two and
+// four digits. Empty for any other wording.
 std::optional<Date> read_as_written(std::string_view text) {
     if (text.size() != 10 || text[2] != '/' || text[5] != '/') return {};
     return date_of(read_field(text.substr(0, 2), 2), read_field(text.substr(3, 2), 2),

@@ -5,7 +5,6 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QStandardPaths>
-#include <QTimer>
 #include <QTranslator>
 
 #include "desktop/compact_style.h"
@@ -15,10 +14,7 @@ namespace navarun::desktop {
 void set_up(QApplication& application) {
     QApplication::setApplicationName(QStringLiteral("N.A.V.A.R.U.N"));
     QApplication::setApplicationVersion(QStringLiteral(NAVARUN_VERSION));
-    // It is for the bar of windows and drawn at many sizes: the first look does not wait for it.
-    QTimer::singleShot(0, &application, [] {
-        QApplication::setWindowIcon(QIcon{QStringLiteral(":/pictures/navarun.svg")});
-    });
+    QApplication::setWindowIcon(QIcon{QStringLiteral(":/pictures/navarun.svg")});
     QApplication::setStyle(new CompactStyle);
 
     // The toolkit's own words are French whatever the locale.

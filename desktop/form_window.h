@@ -33,7 +33,6 @@ class FormWindow : public QMainWindow {
     void closeEvent(QCloseEvent* event) override;
 
   private:
-    void draw_pictures_ahead();
     void make_views();
     void make_menus();
     void make_timers();

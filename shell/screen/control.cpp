@@ -10,9 +10,7 @@ namespace navarun::screen {
 
 namespace detail {
 
-void list_as_changed(Control& owner) {
-    owner.form().screen().m_changed.push_back(&owner);
-}
+void list_as_changed(Control& owner) { owner.form().screen().m_changed.push_back(&owner); }
 
 }  // namespace detail
 
