@@ -44,8 +44,8 @@ void put_digits(std::string& text, std::size_t at, std::size_t count, int number
     }
 }
 
-// The dates that the program wrote itself, which are nearly all that it reads: two, two and four
-// digits. Empty for any other wording.
+// The dates that the program wrote itself, which are nearly all that it reads: two, two and
+// four digits. Empty for any other wording.
 std::optional<Date> read_as_written(std::string_view text) {
     if (text.size() != 10 || text[2] != '/' || text[5] != '/') return {};
     return date_of(read_field(text.substr(0, 2), 2), read_field(text.substr(3, 2), 2),
@@ -107,16 +107,6 @@ Date add_years(Date date, int count) { return add_years(YearMonthDay{date}, coun
 
 YearMonthDay add_years(YearMonthDay date, int count) {
     return clipped((date.year() + years{count}) / date.month(), date.day());
-}
-
-std::array<std::string, 12> dates_of_steps(YearMonthDay first, int months_a_step) {
-    std::array<std::string, 12> texts;
-    int months_passed = 0;
-    for (auto& text : texts) {
-        text = write_date(add_months(first, months_passed));
-        months_passed += months_a_step;
-    }
-    return texts;
 }
 
 int days_between(Date from, Date to) { return static_cast<int>((to - from).count()); }

@@ -1,7 +1,6 @@
 // The proleptic Gregorian calendar, and the date text dd/mm/yyyy in which every date is shown.
 #pragma once
 
-#include <array>
 #include <chrono>
 #include <optional>
 #include <string>
@@ -39,8 +38,6 @@ Date add_months(Date date, int months);
 YearMonthDay add_months(YearMonthDay date, int months);
 Date add_years(Date date, int years);
 YearMonthDay add_years(YearMonthDay date, int years);
-/// The date texts of twelve cells: `first`, then steps of `months`, each added to `first`.
-std::array<std::string, 12> dates_of_steps(YearMonthDay first, int months);
 /// Whole days from `from` to `to`; negative where `to` lies before.
 int days_between(Date from, Date to);
 

@@ -6,7 +6,6 @@
 #include <QLocale>
 #include <QPalette>
 #include <QStandardPaths>
-#include <QTimer>
 #include <QToolTip>
 #include <QTranslator>
 
@@ -63,11 +62,7 @@ QPalette own_palette() {
 void set_up(QApplication& application) {
     QApplication::setApplicationName(QStringLiteral("N.A.V.A.R.U.N"));
     QApplication::setApplicationVersion(QStringLiteral(NAVARUN_VERSION));
-    // It is for the bar of windows and drawn at many sizes: the first look does not wait for
-    // it.
-    QTimer::singleShot(0, &application, [] {
-        QApplication::setWindowIcon(QIcon{QStringLiteral(":/pictures/navarun.svg")});
-    });
+    QApplication::setWindowIcon(QIcon{QStringLiteral(":/pictures/navarun.svg")});
     // Under this name the desktop knows the program's entry in its menus.
     QApplication::setDesktopFileName(QStringLiteral("fr.navarun.Navarun"));
     QApplication::setStyle(new CompactStyle);

@@ -76,8 +76,7 @@ class SurfaceWidget : public QWidget {
     void paintEvent(QPaintEvent*) override {
         QPainter painter{this};
         if (m_look.ground.isValid()) painter.fillRect(rect(), m_look.ground);
-        QSize const size =
-            m_pictures.shown_size(m_look.picture, this->size(), m_look.stretched);
+        QSize const size = m_look.stretched ? this->size() : picture_size();
         m_pictures.draw(painter, m_look.picture, QRectF{QPointF{0, 0}, QSizeF{size}});
         if (m_look.file) {
             m_pictures.draw_file(painter, *m_look.file, devicePixelRatioF());
@@ -104,6 +103,14 @@ class SurfaceWidget : public QWidget {
                              QPointF{line.x2, line.y2} / twips_per_pixel);
         }
         painter.setRenderHint(QPainter::Antialiasing, false);
+    }
+
+    // At its nominal size, but never beyond the box by the pixel that rounding makes.
+    QSize picture_size() const {
+        QSize const natural = m_pictures.natural_size(m_look.picture);
+        QSize const beyond = natural - size();
+        bool const by_rounding = std::max(beyond.width(), beyond.height()) <= 1;
+        return by_rounding ? natural.boundedTo(size()) : natural;
     }
 
     Pictures& m_pictures;

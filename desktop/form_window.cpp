@@ -39,7 +39,6 @@ FormWindow::FormWindow(Session& session, screen::Form& form)
     m_area->setFocusPolicy(Qt::NoFocus);
     m_area->setWidget(m_canvas);
     setCentralWidget(m_area);
-    draw_pictures_ahead();
     make_views();
     make_timers();
     make_tab_order();
@@ -49,28 +48,6 @@ FormWindow::FormWindow(Session& session, screen::Form& form)
 }
 
 FormWindow::~FormWindow() = default;
-
-// The pictures are what takes longest in the first look of a window.
-void FormWindow::draw_pictures_ahead() {
-    auto& pictures = m_session.pictures();
-    std::vector<Pictures::Wanted> wanted;
-    auto const want = [&](auto const& control, bool stretched) {
-        auto const& name = control.Picture.get().name();
-        QSize const box = to_rect(control).size();
-        if (control.is_shown()) {
-            wanted.push_back({name, pictures.shown_size(name, box, stretched)});
-        }
-    };
-    for (auto const* control : m_form.controls()) {
-        if (control->kind() == screen::Kind::image) {
-            auto const& image = static_cast<screen::Image const&>(*control);
-            want(image, image.Stretched);
-        } else if (control->kind() == screen::Kind::picture_box) {
-            want(static_cast<screen::PictureBox const&>(*control), false);
-        }
-    }
-    pictures.draw_ahead(wanted, devicePixelRatioF());
-}
 
 void FormWindow::make_views() {
     for (auto* control : m_form.controls()) {

@@ -47,7 +47,6 @@ class FormWindow : public QMainWindow {
     bool focusNextPrevChild(bool next) override;
 
   private:
-    void draw_pictures_ahead();
     void make_views();
     void make_timers();
     void make_shortcuts();

@@ -6,7 +6,6 @@
 #include <QImageReader>
 #include <algorithm>
 #include <iterator>
-#include <utility>
 
 namespace navarun::desktop {
 
@@ -17,19 +16,6 @@ QString resource_of(std::string const& name) {
     QString file = QString::fromStdString(name);
     file.replace(QLatin1Char('('), QLatin1Char('_')).remove(QLatin1Char(')'));
     return QStringLiteral(":/pictures/%1.svg").arg(file);
-}
-
-// Of a picture at a size in real pixels.
-std::string key_of(std::string const& name, QSize real) {
-    return name + ":" + std::to_string(real.width()) + "x" + std::to_string(real.height());
-}
-
-QImage drawn(QSvgRenderer& svg, QSize real) {
-    QImage image{real, QImage::Format_ARGB32_Premultiplied};
-    image.fill(Qt::transparent);
-    QPainter painter{&image};
-    svg.render(&painter);
-    return image;
 }
 
 // Where the hand points, at its nominal size.
@@ -106,51 +92,16 @@ QSize Pictures::file_size(QString const& path) {
     return size.isEmpty() || decoded(path, thumb).isNull() ? QSize{} : size;
 }
 
-QSize Pictures::shown_size(std::string const& name, QSize box, bool stretched) {
-    if (stretched) return box;
-    QSize const natural = natural_size(name);
-    // Never beyond the box by the pixel that rounding makes.
-    QSize const beyond = natural - box;
-    bool const by_rounding = std::max(beyond.width(), beyond.height()) <= 1;
-    return by_rounding ? natural.boundedTo(box) : natural;
-}
-
-void Pictures::draw_ahead(std::vector<Wanted> const& pictures, double device_pixel_ratio) {
-    struct Job {
-        QString resource;
-        QSize real;
-        std::promise<QImage> image;
-    };
-    std::vector<Job> jobs;
-    for (auto const& [name, size] : pictures) {
-        QSize const real = (QSizeF{size} * device_pixel_ratio).toSize();
-        std::string const key = key_of(name, real);
-        if (real.isEmpty() || m_pixmaps.contains(key) || m_ahead.contains(key)) continue;
-        jobs.push_back({resource_of(name), real, {}});
-        m_ahead[key] = jobs.back().image.get_future();
-    }
-    m_drawing = std::async(std::launch::async, [todo = std::move(jobs)]() mutable {
-        for (auto& job : todo) {
-            QSvgRenderer svg{job.resource};  // renderers are not shared between threads
-            job.image.set_value(drawn(svg, job.real));
-        }
-    });
-}
-
 QPixmap Pictures::pixmap(std::string const& name, QSize size, double device_pixel_ratio) {
     QSize const real = (QSizeF{size} * device_pixel_ratio).toSize();
-    std::string const key = key_of(name, real);
+    std::string const key =
+        name + ":" + std::to_string(real.width()) + "x" + std::to_string(real.height());
     auto& known = m_pixmaps[key];
     if (known.isNull()) {
-        if (auto const ahead = m_ahead.find(key); ahead != m_ahead.end()) {
-            known = QPixmap::fromImage(ahead->second.get());
-            m_ahead.erase(ahead);
-        } else if (auto* const svg = renderer(name)) {
-            known = QPixmap::fromImage(drawn(*svg, real));
-        } else {
-            known = QPixmap{real};
-            known.fill(Qt::transparent);
-        }
+        known = QPixmap{real};
+        known.fill(Qt::transparent);
+        QPainter painter{&known};
+        if (auto* const svg = renderer(name)) svg->render(&painter);
     }
     known.setDevicePixelRatio(device_pixel_ratio);
     return known;

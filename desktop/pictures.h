@@ -9,11 +9,9 @@
 #include <QSize>
 #include <QSvgRenderer>
 #include <deque>
-#include <future>
 #include <map>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "shell/screen/control.h"
 
@@ -23,15 +21,6 @@ class Pictures {
   public:
     /// Size at which the picture is meant, in logical pixels; empty where none has that name.
     QSize natural_size(std::string const& name);
-    /// The size at which a picture is shown in a box: its own, or the whole box.
-    QSize shown_size(std::string const& name, QSize box, bool stretched);
-
-    struct Wanted {
-        std::string name;
-        QSize size;
-    };
-    /// Begins to draw pictures on another core, while the window that will show them is made.
-    void draw_ahead(std::vector<Wanted> const& pictures, double device_pixel_ratio);
     /// Draws the picture into `place`; nothing where none has that name.
     void draw(QPainter& painter, std::string const& name, QRectF const& place);
     /// Draws the picture in vectors, for paper.
@@ -50,8 +39,6 @@ class Pictures {
 
     std::map<std::string, std::unique_ptr<QSvgRenderer>> m_renderers;
     std::map<std::string, QPixmap> m_pixmaps;  // by name and real size
-    std::map<std::string, std::future<QImage>> m_ahead;
-    std::future<void> m_drawing;
     struct DecodedFile {
         std::string path;
         QDateTime written;  // a file may be replaced under its name

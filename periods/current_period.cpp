@@ -13,16 +13,14 @@ void Trouve_ActuelMahaDasha(Program& program) {
     auto& consultation = program.consultation;
     auto const anniversary = read_date(form.Label_anneedefile.Caption.get());
     if (!anniversary) return;
-    CellDates dates;
-    for (int cell = 1; cell <= 12; ++cell) {
-        dates[static_cast<std::size_t>(cell - 1)] =
-            read_date(form.Label_DashaDate(cell).Caption.get());
-    }
+    auto const date_of_cell = [&form](int cell) {
+        return read_date(form.Label_DashaDate(cell).Caption.get());
+    };
     Date const today = program.platform.today();
     if (in_year_in_progress(*anniversary, today)) {
         // Where no sequence had a case, the column may stand at 0 for cell 12.
         int const start = consultation.colonne_age_mod == 0 ? 12 : consultation.colonne_age_mod;
-        int const after = cell_after_today(dates, start, today);
+        int const after = cell_after_today(date_of_cell, start, today);
         int const marked = cell_before(after);
         emphasise(form.Label_Dasha(marked));
         form.Label_DashaDate(marked).ForeColor = screen::black;
@@ -30,7 +28,7 @@ void Trouve_ActuelMahaDasha(Program& program) {
         consultation.colonne_dasha = after;
         return;
     }
-    auto const cell = cell_starting_on(dates, *anniversary);
+    auto const cell = cell_starting_on(date_of_cell, *anniversary);
     if (!cell) return;
     // The period's start cell has its colour already and needs no mark.
     if (form.Label_Dasha(*cell).ForeColor.get() == program.periods.couleur_dasha) return;

@@ -1,9 +1,7 @@
 // Writing a sequence's step into the cells.
 #include "periods/maha_dasha.h"
 
-#include <array>
 #include <optional>
-#include <string>
 #include <utility>
 
 #include "core/text.h"
@@ -38,14 +36,14 @@ void run_sequence(Program& program, int column, DashaStep const& step) {
     bool const shows_29th =
         repairs_leap_days(column) && is_leap_day(consultation.birth.date_naissance());
     int cell = consultation.colonne_age_mod;
-    std::array<std::string, 12> dates;
-    if (start) dates = dates_of_steps(*start, step.months);
-    for (auto& date : dates) {
+    for (int i = 0; i < 12; ++i, cell = cell_after(cell)) {
         form.Label_Dasha(cell).Caption = name;
-        if (shows_29th) date = fevrier29(std::move(date));
-        if (start) form.Label_DashaDate(cell).Caption = date;
+        if (start) {
+            std::string date = write_date(add_months(*start, periods.pas_mois));
+            if (shows_29th) date = fevrier29(std::move(date));
+            form.Label_DashaDate(cell).Caption = std::move(date);
+        }
         periods.pas_mois += step.months;
-        cell = cell_after(cell);
     }
 }
 

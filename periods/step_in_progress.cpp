@@ -10,10 +10,10 @@ bool in_year_in_progress(Date anniversary, Date today) {
     return days >= 1 && days <= 366;
 }
 
-int cell_after_today(CellDates const& dates, int start_cell, Date today) {
+int cell_after_today(DateOfCell const& date_of_cell, int start_cell, Date today) {
     int cell = start_cell;
     do {
-        auto const& date = dates[static_cast<std::size_t>(cell - 1)];
+        auto const date = date_of_cell(cell);
         if (date && today < *date) return cell;
         cell = cell_after(cell);
     } while (cell != start_cell);
@@ -21,9 +21,9 @@ int cell_after_today(CellDates const& dates, int start_cell, Date today) {
     return start_cell;
 }
 
-std::optional<int> cell_starting_on(CellDates const& dates, Date anniversary) {
+std::optional<int> cell_starting_on(DateOfCell const& date_of_cell, Date anniversary) {
     for (int cell = 1; cell <= 12; ++cell) {
-        if (dates[static_cast<std::size_t>(cell - 1)] == anniversary) return cell;
+        if (date_of_cell(cell) == anniversary) return cell;
     }
     return {};
 }

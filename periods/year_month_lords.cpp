@@ -1,10 +1,8 @@
 // The rows of the year and of the months.
 #include "periods/year_month_lords.h"
 
-#include <array>
 #include <optional>
 #include <string>
-#include <utility>
 
 #include "core/text.h"
 #include "periods/cycle_lords.h"
@@ -111,14 +109,15 @@ void Seigneur_Mois(Program& program) {
     consultation.colonne_age = cell_of_age(consultation.palais_index, periods.age_scroll);
     std::optional<YearMonthDay> const first_day{read_date(consultation.date_annee_courante)};
     bool const shows_29th = is_leap_day(consultation.birth.date_naissance());
-    std::array<std::string, 12> dates;
-    if (first_day) dates = dates_of_steps(*first_day, 1);
     int cell = consultation.colonne_age;
-    for (std::size_t i = 0; i < dates.size(); ++i) {
+    for (auto const& name : periods.noms_mois) {
         form.Label_mois(cell).Visible = true;
-        form.Label_mois(cell).Caption = periods.noms_mois[i];
-        if (shows_29th) dates[i] = fevrier29(std::move(dates[i]));
-        if (first_day) form.Label_MoisDate(cell).Caption = dates[i];
+        form.Label_mois(cell).Caption = name;
+        if (first_day) {
+            std::string date = write_date(add_months(*first_day, periods.pas_mois));
+            if (shows_29th) date = fevrier29(std::move(date));
+            form.Label_MoisDate(cell).Caption = std::move(date);
+        }
         ++periods.pas_mois;
         cell = cell_after(cell);
     }

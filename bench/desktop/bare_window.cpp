@@ -1,7 +1,7 @@
 // The floor of a start: a window of the toolkit's ordinary widgets, as many of each kind and as
 // large as the program's main window has. The labels that get their texts from a calculation
-// show a word of the length of a lord's name. No logic, no pictures, no colours, no fonts but the
-// toolkit's own.
+// show a word of the length of a lord's name. No logic, no pictures, no colours, no fonts but
+// the toolkit's own.
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
@@ -12,7 +12,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
-
 #include <algorithm>
 #include <map>
 
@@ -70,9 +69,8 @@ void fill_menus(QMainWindow& window, screen::Form const& form) {
         }
         QString const caption =
             to_qt(static_cast<screen::MenuEntry const&>(*control).Caption.get());
-        bool const opens = std::ranges::any_of(form.controls(), [&](auto const* other) {
-            return other->container() == control;
-        });
+        bool const opens = std::ranges::any_of(
+            form.controls(), [&](auto const* other) { return other->container() == control; });
         QMenu* const above =
             control->container() == nullptr ? nullptr : menus.at(control->container());
         if (opens) {

@@ -98,12 +98,12 @@ void PlacedControl::visit(PropertyVisitor& visitor) const {
 TextControl::TextControl(Form& form, Control* container, Kind kind, std::string_view name,
                          std::optional<int> index, Design const& design)
     : PlacedControl{form, container, kind, name, index, design},
-      ForeColor{*this, design.fore},
       FontName{*this, std::string{design.font.name}},
       FontSize{*this, design.font.size},
-      FontBold{*this, design.font.bold},
       FontItalic{design.font.italic},
-      Align{design.align} {}
+      Align{design.align},
+      ForeColor{*this, design.fore},
+      FontBold{*this, design.font.bold} {}
 
 void TextControl::visit(PropertyVisitor& visitor) const {
     PlacedControl::visit(visitor);

@@ -221,12 +221,12 @@ class TextControl : public PlacedControl {
                 std::optional<int> index, Design const& design);
     void visit(PropertyVisitor& visitor) const override;
 
-    Property<Colour> ForeColor;
     Property<std::string> FontName;
     Property<double> FontSize;
-    Property<bool> FontBold;
     bool const FontItalic;
     Alignment const Align;
+    Property<Colour> ForeColor;
+    Property<bool> FontBold;
 };
 
 class Label : public TextControl {

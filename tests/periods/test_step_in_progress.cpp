@@ -1,4 +1,5 @@
 // Which step of a period is in progress today.
+#include <array>
 #include <optional>
 #include <ostream>
 #include <string_view>
@@ -12,6 +13,13 @@ namespace navarun::test {
 namespace {
 
 Date day(std::string_view text) { return read_date(text).value(); }
+
+/// The dates of the cells 1 to 12 (at 0 to 11), as the searches ask for them.
+struct CellDates : std::array<std::optional<Date>, 12> {
+    std::optional<Date> operator()(int cell) const {
+        return at(static_cast<std::size_t>(cell - 1));
+    }
+};
 
 /// The dates of a period: from `start_cell` round the grid, a step of months from cell to cell.
 CellDates period_dates(std::string_view start, int start_cell, int months) {
