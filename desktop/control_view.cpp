@@ -60,7 +60,7 @@ class SurfaceWidget : public QWidget {
         QColor ground;  // invalid: none
         bool stretched = false;
         bool border = false;
-        bool marks = false;  // a frame that picks out what lies below it
+        bool marks = false;                    // a frame that picks out what lies below it
         std::vector<screen::DrawnLine> lines;  // the persistent ones first
         std::optional<screen::PaintedFile> file;
         bool operator==(Look const&) const = default;
