@@ -2,6 +2,7 @@
 #include "desktop/application.h"
 
 #include <QFont>
+#include <QImageReader>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPalette>
@@ -71,6 +72,10 @@ void set_up(QApplication& application) {
     QApplication::setPalette(own_palette());
     QToolTip::setPalette(own_palette());
     install_roles();
+
+    // Scans and photographs are larger than the toolkit takes by itself.
+    constexpr int largest_picture = 1024;  // megabytes, decoded
+    QImageReader::setAllocationLimit(largest_picture);
 
     // The toolkit's own words are French whatever the locale.
     QLocale const french{QLocale::French, QLocale::France};

@@ -26,4 +26,19 @@ QRect CompactStyle::subControlRect(ComplexControl control, QStyleOptionComplex c
     return QProxyStyle::subControlRect(control, option, part, widget);
 }
 
+void CompactStyle::drawControl(ControlElement element, QStyleOption const* option,
+                               QPainter* painter, QWidget const* widget) const {
+    auto const* const entry = element == CE_MenuBarItem
+                                  ? qstyleoption_cast<QStyleOptionMenuItem const*>(option)
+                                  : nullptr;
+    if (entry == nullptr || !entry->state.testFlag(State_Selected)) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
+    }
+    // Where the keyboard stands is marked as clearly as a menu that is open.
+    QStyleOptionMenuItem marked{*entry};
+    marked.state |= State_Sunken;
+    QProxyStyle::drawControl(element, &marked, painter, widget);
+}
+
 }  // namespace navarun::desktop

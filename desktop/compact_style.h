@@ -1,4 +1,5 @@
-// The desktop's style with the room that the fixed window needs.
+// The desktop's style with the room that the fixed window needs, and with the place of the
+// keyboard shown in the menu bar too.
 #pragma once
 
 #include <QProxyStyle>
@@ -10,6 +11,8 @@ class CompactStyle : public QProxyStyle {
     CompactStyle();
     QRect subControlRect(ComplexControl control, QStyleOptionComplex const* option,
                          SubControl part, QWidget const* widget) const override;
+    void drawControl(ControlElement element, QStyleOption const* option, QPainter* painter,
+                     QWidget const* widget) const override;
 };
 
 }  // namespace navarun::desktop

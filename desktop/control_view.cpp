@@ -61,6 +61,7 @@ class SurfaceWidget : public QWidget {
         QColor ground;  // invalid: none
         bool stretched = false;
         bool border = false;
+        bool marks = false;                    // a frame that picks out what lies below it
         std::vector<screen::DrawnLine> lines;  // the persistent ones first
         std::optional<screen::PaintedFile> file;
         std::shared_ptr<screen::Page const> page;  // its width fills the widget
@@ -89,6 +90,13 @@ class SurfaceWidget : public QWidget {
         if (m_look.border) {
             painter.setPen(QColor{0x64, 0x64, 0x64});
             painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        }
+        if (m_look.marks) {
+            // Seen on every ground: dark outside, light inside.
+            painter.setPen(QPen{Qt::black, 2});
+            painter.drawRect(rect().adjusted(1, 1, -1, -1));
+            painter.setPen(QPen{Qt::white, 2});
+            painter.drawRect(rect().adjusted(3, 3, -3, -3));
         }
     }
 
@@ -174,6 +182,7 @@ class SurfaceView : public PlacedView<C, SurfaceWidget> {
         return {.picture = {},
                 .ground = shape.Filled ? to_qt(shape.BackColor.get()) : QColor{},
                 .border = shape.Border,
+                .marks = shape.Border && !shape.Filled,
                 .lines = {},
                 .file = {},
                 .page = {}};

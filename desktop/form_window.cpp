@@ -230,6 +230,8 @@ void FormWindow::show_form() {
     }
     fit_to_screen();
     show();
+    // Who opened it with the keyboard goes on in it; not every window manager sees to that.
+    activateWindow();
 }
 
 void FormWindow::fit_to_screen() {

@@ -3,6 +3,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QImageReader>
 #include <algorithm>
 #include <iterator>
@@ -55,9 +56,27 @@ namespace {
 // The portrait on the window and the same on the page.
 constexpr std::size_t files_kept = 3;
 
+// A large photograph takes a moment; meanwhile the pointer tells so.
+class MomentOfPatience {
+  public:
+    explicit MomentOfPatience(QString const& path) : m_large{QFileInfo{path}.size() > large} {
+        if (m_large) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    }
+    ~MomentOfPatience() {
+        if (m_large) QGuiApplication::restoreOverrideCursor();
+    }
+    MomentOfPatience(MomentOfPatience const&) = delete;
+    MomentOfPatience& operator=(MomentOfPatience const&) = delete;
+
+  private:
+    static constexpr qint64 large = 1'000'000;  // bytes
+    bool m_large;
+};
+
 // Decoded at the size at which it is shown, never larger where the format allows it. What a
 // damaged file yields is shown.
 QImage decoded(QString const& path, QSize size) {
+    MomentOfPatience const patience{path};
     QImageReader reader{path};
     reader.setDecideFormatFromContent(true);
     if (!size.isEmpty()) reader.setScaledSize(size);

@@ -5,6 +5,7 @@
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QDesktopServices>
+#include <QDialogButtonBox>
 #include <QEventLoop>
 #include <QLabel>
 #include <QMessageBox>
@@ -30,6 +31,16 @@ QString private_folder(std::filesystem::path const& application_folder) {
         QByteArray::fromStdString(application_folder.string()), QCryptographicHash::Sha1);
     return QStandardPaths::writableLocation(QStandardPaths::CacheLocation) +
            QStringLiteral("/lectures-") + QString::fromLatin1(hash.toHex().left(12));
+}
+
+// The parts of a box that bear no words, for screen readers.
+void name_parts(QMessageBox& box, QString const& kind) {
+    if (auto* const icon = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label"))) {
+        icon->setAccessibleName(kind);
+    }
+    if (auto* const answers = box.findChild<QDialogButtonBox*>()) {
+        answers->setAccessibleName(QStringLiteral("Réponses"));
+    }
 }
 
 }  // namespace
@@ -152,10 +163,7 @@ Answer Session::box(std::string_view title, std::string_view text, BoxButtons bu
     box.setIcon(question ? QMessageBox::Question : QMessageBox::Warning);
     box.setStandardButtons(question ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
     box.setDefaultButton(QMessageBox::Ok);
-    if (auto* const icon = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label"))) {
-        icon->setAccessibleName(question ? QStringLiteral("Question")
-                                         : QStringLiteral("Avertissement"));
-    }
+    name_parts(box, question ? QStringLiteral("Question") : QStringLiteral("Avertissement"));
     bool const agreed = box.exec() == QMessageBox::Ok;
     return agreed || !question ? Answer::ok : Answer::cancel;
 }

@@ -1,7 +1,9 @@
 // What the pointer does, done with the keyboard alone.
 #include <QApplication>
 #include <QClipboard>
+#include <QFocusFrame>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QUrl>
@@ -306,6 +308,54 @@ TEST_F(Keyboard, ALabelOffersItsTextForCopying) {
     menu->actions().front()->trigger();
     menu->close();
     EXPECT_EQ(clipboard(), form().Label_nomNakshatra.Caption.get());
+}
+
+TEST_F(Keyboard, F10GoesToTheMenuBarAndThePlaceIsSeen) {
+    auto& bar = *window().menuBar();
+    QImage const before = bar.grab().toImage();
+    press(Qt::Key_F10);
+    EXPECT_EQ(bar.activeAction(), bar.actions().front());
+    EXPECT_NE(bar.grab().toImage(), before);
+    QTest::keyClick(&bar, Qt::Key_Escape);
+    EXPECT_EQ(session().program().screen.focus(), &form().Text_prenom);
+}
+
+TEST_F(Keyboard, TheRingGoesRoundWhateverHasTheKeyboard) {
+    auto* const ring = window().findChild<QFocusFrame*>();
+    ASSERT_NE(ring, nullptr);
+    auto const round = [&](screen::Control const& control) {
+        QWidget const& shown = widget(control);
+        QRect const place{shown.mapTo(ring->parentWidget(), QPoint{0, 0}), shown.size()};
+        // The lowest controls stand a pixel beyond the window's edge.
+        return place.intersected(ring->parentWidget()->rect());
+    };
+    for (screen::Control const* control :
+         {static_cast<screen::Control const*>(&form().Text_nom),
+          static_cast<screen::Control const*>(&form().Combo_moisNaiss),
+          static_cast<screen::Control const*>(&form().HScroll_age),
+          static_cast<screen::Control const*>(&form().Text_Note),
+          static_cast<screen::Control const*>(&form().Command2),
+          static_cast<screen::Control const*>(&form().Label_mois(6))}) {
+        widget(*control).setFocus(Qt::TabFocusReason);
+        EXPECT_TRUE(ring->isVisible()) << control->full_name();
+        EXPECT_TRUE(ring->geometry().contains(round(*control))) << control->full_name();
+    }
+    // The label grows with its text, and the ring with it.
+    session().act([&](screen::User&) { form().Label_mois(6).Caption = "Chandra et Chandra"; });
+    EXPECT_TRUE(ring->geometry().contains(round(form().Label_mois(6))));
+}
+
+TEST_F(Keyboard, WhatClosesGivesTheKeyboardToNobodyElse) {
+    click(form().Charge(1));
+    widget(form().File_Fichier).setFocus(Qt::TabFocusReason);
+    ASSERT_EQ(session().program().screen.focus(), &form().File_Fichier);
+    session().act([&](screen::User&) { form().Frame_FileFichier.Visible = false; });
+    EXPECT_EQ(session().program().screen.focus(), &form().File_Fichier);
+}
+
+TEST_F(Keyboard, AScreenReaderMovesTheFocus) {
+    widget(form().Combo_jourNaiss).setFocus(Qt::OtherFocusReason);
+    EXPECT_EQ(session().program().screen.focus(), &form().Combo_jourNaiss);
 }
 
 TEST_F(Keyboard, TheNextWindowComesByF6) {
