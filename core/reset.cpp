@@ -8,6 +8,7 @@
 #include "core/text.h"
 #include "files/address_book.h"
 #include "files/browser.h"
+#include "print/options.h"
 #include "shell/image_store.h"
 #include "shell/program.h"
 
@@ -58,6 +59,7 @@ void reset(Program& program) {
     program.consultation.fichier_photo = std::string{};
     empty_the_fields(form);
     set_birth_to(program, program.platform.today());
+    close_print_options(program);
     program.screen.move_focus(form.Text_prenom);
     form.HScroll_age.Value = 1;
     form.Picture2.Visible = false;

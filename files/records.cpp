@@ -18,6 +18,7 @@
 #include "files/portrait.h"
 #include "periods/age_scroll.h"
 #include "periods/cycle_window.h"
+#include "print/preview.h"
 #include "periods/maha_dasha.h"
 #include "periods/partial_cycle.h"
 #include "periods/tri_deva.h"
@@ -169,6 +170,7 @@ void Sauve_data(Program& program) {
 
 void load_selected_record(Program& program) {
     auto& form = program.form1;
+    apercu_impression_Invisible(program);
     efface_fleche(program);
     form.Mnu_Julien.Checked = false;
     program.record_values.fichier_selectionne = form.File_Fichier.selected();

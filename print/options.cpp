@@ -1,6 +1,7 @@
 // What the options do to the page.
 #include "print/options.h"
 
+#include <algorithm>
 #include <array>
 
 #include "chart/colour_schemes.h"
@@ -57,6 +58,16 @@ void tell_ages(Program& program) {
     labels(2).ForeColor = inside ? screen::black : outside_the_span;
 }
 
+void list_periods(Program& program) {
+    auto& lines = program.printing.periodes_impression;
+    lines.fill("");
+    // The first line of the list is a rule above the first heading.
+    auto const listed = period_lines(program);
+    for (std::size_t i = 0; i < lines.size() && i + 1 < listed.size(); ++i) {
+        lines[i] = listed[i + 1];
+    }
+}
+
 void HScroll_annee_change(Program& program) {
     auto& options = program.option_impression;
     tell_ages(program);
@@ -95,15 +106,16 @@ void Image_Impression_click(Program& program) {
 }  // namespace
 
 void choix_periode(Program& program) {
-    auto& lines = program.printing.periodes_impression;
-    lines.fill("");
-    // The first line of the list is a rule above the first heading.
-    auto const listed = period_lines(program);
-    for (std::size_t i = 0; i < lines.size() && i + 1 < listed.size(); ++i) {
-        lines[i] = listed[i + 1];
-    }
+    list_periods(program);
     auto& options = program.option_impression;
     switch_section(program, {options.Check_periode, program.printing.imprime_periode});
+}
+
+void keep_periods_of_the_person(Program& program) {
+    auto const& lines = program.printing.periodes_impression;
+    bool const listed =
+        std::ranges::any_of(lines, [](auto const& line) { return !line.empty(); });
+    if (listed) list_periods(program);
 }
 
 void close_print_options(Program& program) {

@@ -63,6 +63,7 @@ double ScalePicPreviewToPrinterInches(Program& program, screen::PictureBox& box)
 
 void draw_preview(Program& program) {
     auto& box = program.form1.Picture2;
+    keep_periods_of_the_person(program);
     double const ratio = ScalePicPreviewToPrinterInches(program, box);
     if (auto page = PrintRoutine(program, ratio)) box.show_page(std::move(*page));
 }

@@ -336,6 +336,7 @@ std::optional<screen::Page> PrintRoutine(Program& program, double ratio) {
 
 void print_report(Program& program) {
     if (program.platform.printer_dialog() == Answer::cancel) return;
+    keep_periods_of_the_person(program);
     if (auto page = PrintRoutine(program, 1)) program.platform.print({std::move(*page)});
 }
 
