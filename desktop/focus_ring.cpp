@@ -68,7 +68,15 @@ void FocusRing::place() {
     show();
 }
 
+bool FocusRing::target_is_covered() const {
+    auto const* const on_top =
+        m_canvas.childAt(m_target->mapTo(&m_canvas, m_target->rect().center()));
+    return on_top != m_target && !m_target->isAncestorOf(on_top);
+}
+
 void FocusRing::paintEvent(QPaintEvent*) {
+    // A message over the control lies over its ring too.
+    if (m_target == nullptr || target_is_covered()) return;
     QPainter painter{this};
     painter.setRenderHint(QPainter::Antialiasing);
     QRectF const ring = QRectF{rect()}.adjusted(2, 2, -2, -2);
@@ -76,7 +84,7 @@ void FocusRing::paintEvent(QPaintEvent*) {
     painter.drawRoundedRect(ring, 3, 3);
     painter.setPen(QPen{m_tone, thickness});
     painter.drawRoundedRect(ring, 3, 3);
-    if (!m_point || m_target == nullptr) return;
+    if (!m_point) return;
     QPointF const at = *m_point + mapFrom(&m_canvas, m_target->mapTo(&m_canvas, QPoint{0, 0}));
     for (auto const& pen : {QPen{Qt::white, 3}, QPen{m_tone, 1}}) {
         painter.setPen(pen);

@@ -30,6 +30,7 @@ class FocusRing : public QFocusFrame {
 
   private:
     void place();
+    bool target_is_covered() const;
 
     QWidget& m_canvas;
     QPointer<QWidget> m_target;

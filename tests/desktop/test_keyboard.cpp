@@ -345,6 +345,20 @@ TEST_F(Keyboard, TheRingGoesRoundWhateverHasTheKeyboard) {
     EXPECT_TRUE(ring->geometry().contains(round(form().Label_mois(6))));
 }
 
+TEST_F(Keyboard, AMessageLiesOverTheRing) {
+    double_click(form().Label_Solaire(10));
+    auto const message = [&] {
+        return widget(form().frame_messageSauve)
+            .parentWidget()
+            ->grab(widget(form().frame_messageSauve).geometry())
+            .toImage();
+    };
+    session().act([&](screen::User&) { form().frame_messageSauve.Visible = true; });
+    QImage const before = message();
+    widget(form().Text_definition_palais).setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(message(), before);
+}
+
 TEST_F(Keyboard, WhatClosesGivesTheKeyboardToNobodyElse) {
     click(form().Charge(1));
     widget(form().File_Fichier).setFocus(Qt::TabFocusReason);

@@ -44,6 +44,14 @@ class Desk:
         self._open = contextlib.ExitStack()
 
     def __enter__(self):
+        try:
+            self._set_up()
+        except BaseException:
+            self._open.close()
+            raise
+        return self
+
+    def _set_up(self):
         self.folder = self._open.enter_context(tempfile.TemporaryDirectory(prefix="navarun-"))
         reader, writer = os.pipe()
         self._start(
@@ -72,7 +80,6 @@ class Desk:
             lambda: b"window id" in self.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"]),
             "the window manager",
         )
-        return self
 
     def __exit__(self, *error):
         self._open.close()
