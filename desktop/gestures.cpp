@@ -144,8 +144,8 @@ class FocusFilter : public QObject {
                 take_focus();
                 break;
             case Qt::ActiveWindowFocusReason:
-                // Back from another window of the program, whose control had the focus.
-                if (focus_is_elsewhere()) take_focus();
+                // A window that opens takes no focus: nothing has been done in it yet.
+                if (is_back_from_small_window()) take_focus();
                 break;
             default:
                 break;
@@ -160,9 +160,10 @@ class FocusFilter : public QObject {
         m_session.act([&](screen::User& user) { user.focus(m_control); });
     }
 
-    bool focus_is_elsewhere() const {
+    bool is_back_from_small_window() const {
         auto const* const focused = m_session.program().screen.focus();
-        return focused == nullptr || &focused->form() != &m_control.form();
+        auto const* const main = &m_session.program().form1;
+        return &m_control.form() == main && (focused == nullptr || &focused->form() != main);
     }
 
     Session& m_session;
