@@ -16,6 +16,7 @@ virtual_display_packages=(
 test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     xvfb xdotool imagemagick openbox
+    python3 cups-daemon cups-client poppler-utils
 )
 
 long_test_packages=(
