@@ -3,6 +3,8 @@
 
 #include <QFontMetricsF>
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 #include "desktop/to_qt.h"
 
@@ -75,7 +77,7 @@ class OperationPainter {
         m_painter.setRenderHint(QPainter::TextAntialiasing);
         double baseline = metrics.ascent();
         for (QString const& line : to_qt(text.text).split(QLatin1Char('\n'))) {
-            draw_line(line, baseline, (text.right_edge - text.x) * page_text_units);
+            draw_line(line, baseline, metrics, (text.right_edge - text.x) * page_text_units);
             baseline += metrics.lineSpacing();
         }
         m_painter.restore();
@@ -89,19 +91,27 @@ class OperationPainter {
                                              : m_painter.device()->devicePixelRatioF();
     }
 
+    // A tab leads to the next stop to the right of what stands before it.
     // @param room  in units of the text; not above 0 for as much as it takes
-    void draw_line(QString const& line, double baseline, double room) const {
-        double const width = QFontMetricsF{m_painter.font()}.horizontalAdvance(line);
+    void draw_line(QString const& line, double baseline, QFontMetricsF const& metrics,
+                   double room) const {
+        double const width = metrics.horizontalAdvance(line);
         m_painter.save();
         if (room > 0 && width > room) m_painter.scale(room / width, 1);
-        double x = 0;
-        double stop = screen::first_tab_stop;
+        double end = 0;  // inches from the left edge
+        bool after_a_tab = false;
         for (QString const& part : line.split(QLatin1Char('\t'))) {
-            if (!part.isEmpty()) m_painter.drawText(QPointF{x, baseline}, part);
-            x = stop * page_text_units;
-            stop += screen::tab_step;
+            if (std::exchange(after_a_tab, true)) end = stop_after(end);
+            if (part.isEmpty()) continue;
+            m_painter.drawText(QPointF{end * page_text_units, baseline}, part);
+            end += metrics.horizontalAdvance(part) / page_text_units;
         }
         m_painter.restore();
+    }
+
+    static double stop_after(double place) {
+        double const steps = std::floor((place - screen::first_tab_stop) / screen::tab_step);
+        return screen::first_tab_stop + std::max(0.0, steps + 1) * screen::tab_step;
     }
 
     QPainter& m_painter;

@@ -1,9 +1,14 @@
 // Printing through the toolkit.
 #include "desktop/printer.h"
 
+#include <QBuffer>
+#include <QDir>
+#include <QFileInfo>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinterInfo>
+#include <QTemporaryFile>
 #include <cmath>
 
 #include "desktop/page_painter.h"
@@ -35,6 +40,39 @@ std::unique_ptr<QPrinter> default_printer() {
     return printer;
 }
 
+// What the printing may take beyond the document itself.
+constexpr qint64 bytes_to_spare = 65536;
+
+void paint_document(QPagedPaintDevice& device, int units,
+                    std::vector<screen::Page> const& pages, Pictures& pictures) {
+    QPainter painter;
+    if (!painter.begin(&device)) return;
+    bool first = true;
+    for (auto const& page : pages) {
+        if (!std::exchange(first, false) && !device.newPage()) return;
+        paint_page(painter, pictures, page, units, PageDevice::paper);
+    }
+}
+
+// The toolkit hands on what a full disk left of a document: whether there is room for the whole
+// of it is found out before.
+bool has_room_for(QPrinter const& printer, std::vector<screen::Page> const& pages,
+                  Pictures& pictures) {
+    QBuffer document;
+    document.open(QIODevice::WriteOnly);
+    QPdfWriter writer{&document};
+    writer.setPageLayout(printer.pageLayout());
+    writer.setResolution(page_text_units);
+    paint_document(writer, page_text_units, pages, pictures);
+    QString const file = printer.outputFileName();
+    QString const folder = file.isEmpty() ? QDir::tempPath() : QFileInfo{file}.absolutePath();
+    QTemporaryFile room{folder + QStringLiteral("/navarun-XXXXXX")};
+    // Where nothing can be tried the printer tells.
+    if (!room.open()) return true;
+    QByteArray const content(document.size() + bytes_to_spare, ' ');
+    return room.write(content) == content.size() && room.flush();
+}
+
 }  // namespace
 
 screen::PageSize Printer::page() const {
@@ -58,13 +96,8 @@ void Printer::print(std::vector<screen::Page> const& pages, Pictures& pictures) 
     if (!m_chosen) return;
     m_chosen->setFullPage(true);
     m_chosen->setResolution(page_text_units);
-    QPainter painter;
-    if (!painter.begin(m_chosen.get())) return;
-    bool first = true;
-    for (auto const& page : pages) {
-        if (!std::exchange(first, false) && !m_chosen->newPage()) return;
-        paint_page(painter, pictures, page, m_chosen->resolution(), PageDevice::paper);
-    }
+    if (!has_room_for(*m_chosen, pages, pictures)) return;
+    paint_document(*m_chosen, m_chosen->resolution(), pages, pictures);
 }
 
 }  // namespace navarun::desktop
