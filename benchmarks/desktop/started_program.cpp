@@ -1,5 +1,5 @@
 // Watching a start.
-#include "bench/desktop/started_program.h"
+#include "benchmarks/desktop/started_program.h"
 
 #include <array>
 #include <chrono>

@@ -11,8 +11,8 @@
 
 #include <benchmark/benchmark.h>
 
-#include "bench/ratios.h"
-#include "bench/ready_fields.h"
+#include "benchmarks/ratios.h"
+#include "benchmarks/ready_fields.h"
 #include "shell/names.h"
 #include "tools/pilote/pilot.h"
 

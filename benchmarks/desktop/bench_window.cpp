@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-#include "bench/desktop/started_program.h"
+#include "benchmarks/desktop/started_program.h"
 
 namespace {
 

@@ -11,7 +11,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "bench/ratios.h"
+#include "benchmarks/ratios.h"
 #include "tools/pilote/pilot.h"
 
 namespace navarun {

@@ -1,5 +1,5 @@
 // Taking the values of the fields, and writing them again.
-#include "bench/ready_fields.h"
+#include "benchmarks/ready_fields.h"
 
 #include "periods/cycle_lords.h"
 

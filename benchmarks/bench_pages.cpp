@@ -8,7 +8,7 @@
 #include <benchmark/benchmark.h>
 #include <unistd.h>
 
-#include "bench/ratios.h"
+#include "benchmarks/ratios.h"
 #include "print/report.h"
 #include "tools/pilote/pilot.h"
 
