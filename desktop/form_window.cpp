@@ -229,6 +229,9 @@ void FormWindow::show_form() {
         return;
     }
     fit_to_screen();
+    // The keyboard begins where Tab does.
+    auto* const first = m_walk.after(nullptr, true);
+    if (!is_main() && first != nullptr) first->setFocus(Qt::OtherFocusReason);
     show();
     // Who opened it with the keyboard goes on in it; not every window manager sees to that.
     activateWindow();
