@@ -20,7 +20,8 @@ class Printer {
     /// Shows the system's printer dialog. Without a printer it still offers a PDF file.
     /// @return false where the user gives up.
     bool choose(QWidget* parent);
-    /// Prints a document on the printer chosen. A printer that cannot prints nothing.
+    /// Prints a document on the printer chosen. A printer that cannot prints nothing; nor does
+    /// one whose document finds no room on the disk: never a part of it.
     void print(std::vector<screen::Page> const& pages, Pictures& pictures);
 
   private:

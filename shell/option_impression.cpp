@@ -14,6 +14,10 @@ using screen::Design;
 using screen::Font;
 using screen::Place;
 
+constexpr int window_width = 3375;
+// Left edge of the last check box of a row.
+constexpr int last_column = 2040;
+
 constexpr Colour azure_small_window{0xB4CEFC};
 constexpr Colour title_band{0x2C8EDC};
 constexpr Colour span_blue{0x0000C0};
@@ -50,9 +54,9 @@ Design date_design(int index) {
     return {.place = {index == 0 ? 120 : 2280, 840, 975, 255}, .font = narrow};
 }
 
-// Three columns; the last takes the longest text.
 Design box_design(int left, int top, std::string_view text, std::string_view tooltip) {
-    int const width = left == 2040 ? 1320 : 1020;
+    // The last of a row reaches the edge of the window.
+    int const width = left == last_column ? window_width - left : 1080;
     return {.place = {left, top, width, 330},
             .text = text,
             .font = box_font,
@@ -65,13 +69,13 @@ Design box_design(int left, int top, std::string_view text, std::string_view too
 Option_impression::Option_impression(screen::Screen& screen_)
     : Form{screen_,
            "Option_impression",
-           {.place = {3480, 2400, 3375, 3240},
+           {.place = {3480, 2400, window_width, 3240},
             .text = "Option Impression",
             .back = azure_small_window,
             .visible = false}},
       Label_option_impression{*this,
                               "Label_option_impression",
-                              {.place = {0, 0, 3375, 495},
+                              {.place = {0, 0, window_width, 495},
                                .text = "Option d'impression",
                                .font = {.name = "MS Sans Serif", .size = 13.5},
                                .fore = screen::white,
@@ -94,7 +98,7 @@ Option_impression::Option_impression(screen::Screen& screen_)
       Check_PhotoImprime{*this, "Check_PhotoImprime",
                          box_design(1080, 1680, "Photo", "Imprimez la photo.")},
       Check_periode{*this, "Check_periode",
-                    box_design(2040, 1680, "Période", "Imprimez les périodes.")},
+                    box_design(last_column, 1680, "Période", "Imprimez les périodes.")},
       // The missing letter is the window's own.
       Check_SeigneurMois{*this, "Check_SeigneurMois",
                          box_design(0, 2040, "S.Mois", "Imprimez le Ségneur du Mois.")},
@@ -102,7 +106,7 @@ Option_impression::Option_impression(screen::Screen& screen_)
                         box_design(1080, 2040, "Note", "Imprimez vos notes.")},
       Check_palaisDestin{
           *this, "Check_palaisDestin",
-          box_design(2040, 2040, "P. du destin", "Imprimez le palais du destin.")},
+          box_design(last_column, 2040, "P. du destin", "Imprimez le palais du destin.")},
       Image_Impression{*this,
                        "Image_Impression",
                        {.place = {1447, 2520, 480, 480},

@@ -203,6 +203,34 @@ TEST_F(Pages, InkStandsAlikeOnPaperAndInThePreview) {
     }
 }
 
+// Under the palace the list of periods goes on: its ground covers it, so that its own texts can
+// be read.
+TEST_F(Pages, ThePalaceCoversTheLastPeriods) {
+    auto& pictures = session().pictures();
+    auto& program = session().program();
+    program.printing.imprime_palais_destin = true;
+    program.printing.periodes_impression.fill("");
+    auto const page = [&] { return *PrintRoutine(program, 1); };
+    QRect const inside = QRectF{6.32 * 150, 7.75 * 150, 1.46 * 150, 1.13 * 150}.toAlignedRect();
+    auto const palace = [&] {
+        return drawn(pictures, page(), 150, desktop::PageDevice::paper, 1).copy(inside);
+    };
+    QImage const alone = palace();
+    program.printing.periodes_impression.fill("MMMMMMMMMMMM");
+    EXPECT_EQ(palace(), alone);
+}
+
+TEST_F(Pages, TheBoxesOfTheOptionsShowTheirWholeTexts) {
+    session().act([&](screen::User& user) { user.click(form().MnuApercu_Impression); });
+    auto& options = session().program().option_impression;
+    auto const& shown = *session().window(options);
+    for (auto* const control : options.controls()) {
+        if (control->kind() != screen::Kind::check_box) continue;
+        QWidget const& box = *shown.widget(*control);
+        EXPECT_LE(box.sizeHint().width(), box.width()) << control->full_name();
+    }
+}
+
 // What a note pasted from elsewhere may hold.
 screen::Page page_of(std::string text) {
     return {.ratio = 1,

@@ -9,6 +9,7 @@ own menu and the system's printer dialog. The scheduler is stopped whatever happ
 
 Ends with 77 where the print system or the readers of PDF files are not installed.
 """
+import ctypes
 import html
 import json
 import os
@@ -31,6 +32,12 @@ WAIT = 30  # seconds after which a document that did not come never comes
 def tool(name):
     """Schedulers stand where ordinary users have no path."""
     return shutil.which(name, path=os.environ.get("PATH", "") + ":/usr/sbin:/sbin")
+
+
+def end_with_the_test():
+    """In the scheduler's process: it ends with whoever started it, also where that is killed."""
+    set_signal_of_parents_death = 1
+    ctypes.CDLL(None).prctl(set_signal_of_parents_death, signal.SIGTERM)
 
 
 class PrintSystem:
@@ -114,7 +121,7 @@ PageLog {self.path("page_log")}
             [tool("cupsd"), "-f", "-c", self.path("etc", "cupsd.conf"),
              "-s", self.path("etc", "cups-files.conf")],
             stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-            stderr=open(self.path("stderr"), "w"))
+            stderr=open(self.path("stderr"), "w"), preexec_fn=end_with_the_test)
         deadline = time.monotonic() + WAIT
         while True:
             try:

@@ -37,6 +37,17 @@ TEST(Preview, KeepsTheProportionsOfThePaper) {
     EXPECT_EQ(visit.number("Picture2.Top"), 0);
 }
 
+TEST(Preview, AnotherPaperChangesItsHeightNeverItsWidth) {
+    PrintVisit visit;
+    visit.toggle_preview();
+    visit.pages();
+    visit.program().printing.preview_page = {.width = 8.5, .height = 11};
+    visit.click("Option_impression.Check_noteImprime");
+    EXPECT_EQ(visit.number("Picture2.Width"), 5100);
+    EXPECT_EQ(visit.number("Picture2.Height"), 6600);
+    EXPECT_NEAR(visit.last_page()["ratio"].get<double>(), 5100 / 8.5 / 1440, 1e-12);
+}
+
 TEST(Preview, SizesOfTextFollowTheRatioAndPlacesDoNot) {
     PrintVisit visit;
     visit.toggle_preview();
