@@ -126,6 +126,36 @@ DWORD error_of(std::filesystem::path const& path, Call const& call) {
     return number;
 }
 
+// A record from a disc comes marked read-only; it is replaced and deleted all the same, for the
+// practitioner was asked. The mark comes back on what then stands there.
+class MarkTakenOff {
+  public:
+    explicit MarkTakenOff(std::filesystem::path path)
+        : m_path{std::move(path)},
+          m_attributes{::GetFileAttributesW(system_path(m_path).c_str())} {
+        if (is_marked()) set(m_attributes & ~DWORD{FILE_ATTRIBUTE_READONLY});
+    }
+    ~MarkTakenOff() {
+        if (is_marked()) set(m_attributes);
+    }
+    MarkTakenOff(MarkTakenOff const&) = delete;
+    MarkTakenOff& operator=(MarkTakenOff const&) = delete;
+    void forget() { m_attributes = INVALID_FILE_ATTRIBUTES; }
+
+  private:
+    bool is_marked() const {
+        constexpr DWORD marks = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY;
+        return m_attributes != INVALID_FILE_ATTRIBUTES &&
+               (m_attributes & marks) == FILE_ATTRIBUTE_READONLY;
+    }
+    void set(DWORD attributes) const {
+        ::SetFileAttributesW(system_path(m_path).c_str(), attributes);
+    }
+
+    std::filesystem::path m_path;
+    DWORD m_attributes;
+};
+
 // Write-through: the change of names has reached the disk when the call returns.
 DWORD rename_error(std::filesystem::path const& source, std::filesystem::path const& target) {
     return error_of(target, [&] {
@@ -198,6 +228,7 @@ void write_file(std::filesystem::path const& path, std::string_view bytes,
     if (not_written != ERROR_SUCCESS) {
         fail_at(attempt::writing, shown_as, unfinished_path, not_written);
     }
+    MarkTakenOff const old{path};
     DWORD const not_renamed = rename_error(unfinished_path, path);
     if (not_renamed != ERROR_SUCCESS) fail_at(attempt::writing, shown_as, path, not_renamed);
     unfinished.keep();
@@ -205,8 +236,9 @@ void write_file(std::filesystem::path const& path, std::string_view bytes,
 
 void move_file(std::filesystem::path const& source, std::filesystem::path const& target,
                std::string const& shown_as) {
+    MarkTakenOff replaced{target};
     DWORD const number = rename_error(source, target);
-    if (number == ERROR_SUCCESS) return;
+    if (number == ERROR_SUCCESS) return replaced.forget();
     if (number == ERROR_NOT_SAME_DEVICE) {
         write_file(target, read_file(source, shown_as), shown_as);
         delete_file(source, shown_as);
@@ -218,6 +250,7 @@ void move_file(std::filesystem::path const& source, std::filesystem::path const&
 }
 
 void delete_file(std::filesystem::path const& path, std::string const& shown_as) {
+    MarkTakenOff const old{path};
     auto const number =
         error_of(path, [&] { return ::DeleteFileW(system_path(path).c_str()); });
     if (number != ERROR_SUCCESS) fail_at(attempt::deleting, shown_as, path, number);

@@ -24,6 +24,10 @@ test_packages=(
     at-spi2-core gir1.2-atspi-2.0 python3-gi python3 dbus-daemon
     poppler-utils
 )
+# The same program on Windows: its compiler, and what runs it here.
+windows_packages=(
+    g++-mingw-w64-x86-64-posix wine64
+)
 
 long_test_packages=(
     clang libclang-rt-14-dev
