@@ -9,6 +9,11 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
     target_compile_options(app_flags INTERFACE -Wno-restrict)
 endif()
 target_include_directories(app_flags INTERFACE ${CMAKE_SOURCE_DIR})
+if(WIN32)
+    # One file that needs nothing of the compiler's own beside it; Windows 10 and later.
+    target_compile_definitions(app_flags INTERFACE UNICODE _WIN32_WINNT=0x0A00)
+    target_link_options(app_flags INTERFACE -static)
+endif()
 if(NAVARUN_SANITIZE)
     target_compile_options(app_flags INTERFACE
         -fsanitize=${NAVARUN_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -1,8 +1,10 @@
 // Files that survive: a write goes to a new file beside the old one, is flushed to the disk and
 // takes the old one's place by a rename, so that a failed or interrupted write leaves the old
-// file whole. The one place that calls the operating system itself.
+// file whole. Each system has a form of its own, durable_file_posix and durable_file_windows;
+// beside folder_entries the only places that call the operating system itself.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -47,7 +49,8 @@ class FolderLock {
     bool take(std::filesystem::path const& folder);
 
   private:
-    int m_descriptor = -1;
+    /// What the system calls the hold; -1 where there is none.
+    std::intptr_t m_held = -1;
 };
 
 }  // namespace navarun

@@ -2,13 +2,11 @@
 #include "files/file_list.h"
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
-
-#include <dirent.h>
 
 #include "core/code_page.h"
 #include "core/text.h"
+#include "files/folder_entries.h"
 
 namespace navarun {
 
@@ -36,13 +34,6 @@ bool ends_with_ignoring_case(std::string_view name, std::string_view ending) {
                });
 }
 
-bool is_file(std::filesystem::path const& folder, dirent const& entry) {
-    if (entry.d_type == DT_REG) return true;
-    if (entry.d_type != DT_UNKNOWN && entry.d_type != DT_LNK) return false;
-    std::error_code unreadable;
-    return std::filesystem::is_regular_file(folder / entry.d_name, unreadable);
-}
-
 }  // namespace
 
 bool has_ending(std::string_view name, Endings const& endings) {
@@ -60,13 +51,10 @@ bool is_refused_in_file_names(char character) {
 std::vector<std::string> list_files(std::filesystem::path const& folder,
                                     Endings const& endings) {
     std::vector<std::pair<std::string, std::string>> keyed;
-    if (DIR* const directory = ::opendir(folder.c_str())) {
-        while (dirent const* const entry = ::readdir(directory)) {
-            std::string_view const name = entry->d_name;
-            if (!has_ending(name, endings) || !is_file(folder, *entry)) continue;
-            keyed.emplace_back(capital_form(name), name);
-        }
-        ::closedir(directory);
+    auto const listed = [&](std::string_view name) { return has_ending(name, endings); };
+    for (auto& name : names_of_files(folder, listed)) {
+        std::string key = capital_form(name);
+        keyed.emplace_back(std::move(key), std::move(name));
     }
     std::ranges::sort(keyed);
     std::vector<std::string> names;

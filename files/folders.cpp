@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "files/durable_file.h"
+#include "files/folder_entries.h"
 #include "shell/program.h"
 
 namespace navarun {
@@ -20,30 +21,24 @@ constexpr std::array<std::string_view, 3> made_folders{"DATA1", "DATA2", "IMAGE"
 }  // namespace
 
 bool FichDoss_existe(std::filesystem::path const& path) {
-    std::error_code unreadable;
-    auto const status = std::filesystem::status(path, unreadable);
-    return path.has_filename() ? std::filesystem::exists(status)
-                               : std::filesystem::is_directory(status);
+    auto const kind = kind_of(path);
+    return path.has_filename() ? kind != EntryKind::nothing : kind == EntryKind::folder;
 }
 
 bool FileExists(std::filesystem::path const& path) {
     // The system would end the name at a zero byte, and find another file.
-    if (path.native().find('\0') != std::string::npos) return false;
-    std::error_code unreadable;
-    auto const status = std::filesystem::status(path, unreadable);
-    return std::filesystem::exists(status) && !std::filesystem::is_directory(status);
+    if (path.native().find('\0') != path.native().npos) return false;
+    return kind_of(path) == EntryKind::file;
 }
 
 void cree_repertoire(Program& program) {
     program.folders.dossier_ressources = ressources;
-    std::error_code not_looked_at;
     auto const root = program.path_of(program.folders.dossier_ressources);
-    if (!FichDoss_existe(root)) std::filesystem::create_directories(root, not_looked_at);
+    if (!FichDoss_existe(root)) make_folders(root);
     remove_unfinished_file(root);
     for (auto const name : made_folders) {
         auto const folder = root / name;
-        if (!FichDoss_existe(folder))
-            std::filesystem::create_directories(folder, not_looked_at);
+        if (!FichDoss_existe(folder)) make_folders(folder);
         remove_unfinished_file(folder);
     }
 }

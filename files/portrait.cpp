@@ -6,9 +6,11 @@
 #include "chart/palace_colours.h"
 #include "core/code_page.h"
 #include "core/dialogue.h"
+#include "core/file_path.h"
 #include "files/browser.h"
 #include "files/durable_file.h"
 #include "files/fitted_picture.h"
+#include "files/folder_entries.h"
 #include "shell/image_store.h"
 #include "shell/program.h"
 
@@ -36,28 +38,28 @@ void name_portrait(Program& program) {
 // A name that no file of the portrait folder bears yet.
 std::string free_portrait_name(Program& program, std::filesystem::path const& dropped) {
     // As a record can hold it.
-    std::string name = fitted_to_code_page(dropped.filename().string());
+    std::string name = fitted_to_code_page(path_text(dropped.filename()));
     std::ranges::replace_if(name, is_refused_in_file_names, '_');
-    std::filesystem::path const named{name};
+    auto const named = file_path(name);
     for (int number = 2; FileExists(program.path_of(program.folders.dossier_image + name));
          ++number) {
-        name = named.stem().string() + " (" + std::to_string(number) + ")" +
-               named.extension().string();
+        name = path_text(named.stem()) + " (" + std::to_string(number) + ")" +
+               path_text(named.extension());
     }
     return name;
 }
 
 void take_dropped_file(Program& program, std::filesystem::path const& dropped) {
-    std::error_code unreadable;
-    bool const picture = has_ending(dropped.filename().string(), portrait_endings) &&
-                         !std::filesystem::is_directory(dropped, unreadable);
+    std::string const dropped_name = path_text(dropped.filename());
+    bool const picture =
+        has_ending(dropped_name, portrait_endings) && kind_of(dropped) != EntryKind::folder;
     if (!picture) {
         transient_message(program, "Ce fichier n'est pas une image !", 2);
         return;
     }
     std::string const name = free_portrait_name(program, dropped);
     write_file(program.path_of(program.folders.dossier_image + name),
-               read_file(dropped, dropped.filename().string()), name);
+               read_file(dropped, dropped_name), name);
     refresh_list(program);
     choose_portrait(program, name);
 }
@@ -73,7 +75,7 @@ void affiche_image_ajustee(Program& program, std::string const& name) {
     double const box_width = static_cast<double>(box.Width) / screen::twips_per_pixel;
     double const box_height = static_cast<double>(box.Height) / screen::twips_per_pixel;
     auto const place = fitted(box_width, box_height, size.width, size.height);
-    box.paint({.path = path.string(),
+    box.paint({.path = path_text(path),
                .x = place.x,
                .y = place.y,
                .width = place.width,
@@ -94,7 +96,7 @@ void wire_portrait(Program& program) {
     box.on_double_click = [&program] { back_to_ganesha(program); };
     box.on_mouse_move = [&program](screen::Mouse const&) { name_portrait(program); };
     box.on_file_drop = [&program](std::string const& path) {
-        take_dropped_file(program, path);
+        take_dropped_file(program, file_path(path));
     };
 }
 

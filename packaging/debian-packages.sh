@@ -29,6 +29,10 @@ bench_packages=(
     libbenchmark-dev libxcb1-dev binutils
     xvfb
 )
+# The same program on Windows: its compiler, and what runs it here.
+windows_packages=(
+    g++-mingw-w64-x86-64-posix wine64
+)
 
 long_test_packages=(
     clang libclang-rt-14-dev

@@ -11,6 +11,7 @@
 
 #include "chart/arrow_values.h"
 #include "core/consultation.h"
+#include "core/file_path.h"
 #include "core/lords.h"
 #include "files/browser_values.h"
 #include "files/durable_file.h"
@@ -94,7 +95,7 @@ class Program {
 
     /// Where a path from the application folder on lies.
     std::filesystem::path path_of(std::string_view path) const {
-        return application_folder / std::filesystem::path{path};
+        return application_folder / file_path(path);
     }
 
     Platform& platform;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/code_page.h"
+#include "core/file_path.h"
 #include "files/durable_file.h"
 #include "tools/pilote/page_json.h"
 #include "tools/pilote/picture_header.h"
@@ -104,7 +105,7 @@ void ScriptedPlatform::view_text(std::filesystem::path const& file,
 }
 
 PictureSize ScriptedPlatform::picture_size(std::filesystem::path const& file) {
-    std::string const name = file.filename().string();
+    std::string const name = path_text(file.filename());
     auto const size = size_in_header(read_file(file, name));
     if (!size) {
         throw FatalError{"L'image « " + name + " » n'a pas pu être affichée.",

@@ -1,6 +1,4 @@
-// The operating system's calls, each result looked at.
-#include "files/durable_file.h"
-
+// The operating system's calls where names are bytes, each result looked at.
 #include <array>
 #include <cerrno>
 #include <utility>
@@ -10,7 +8,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "core/fatal_error.h"
+#include "files/durable_file.h"
+#include "files/failed_file.h"
 
 namespace navarun {
 
@@ -23,37 +22,31 @@ struct Reason {
 
 // What a practitioner reads; rarer reasons are told by their number.
 constexpr std::array<Reason, 13> reasons{{
-    {ENOSPC, "Il n'y a plus de place sur le disque."},
-    {EDQUOT, "Votre part du disque est pleine."},
-    {EACCES, "L'accès est refusé."},
-    {EPERM, "L'accès est refusé."},
-    {EROFS, "Le disque est protégé contre l'écriture."},
-    {EIO, "Le disque a signalé une erreur."},
-    {ENOENT, "Le fichier ou son dossier n'existe pas."},
-    {ENOTDIR, "Un fichier se trouve à la place d'un dossier."},
-    {EISDIR, "Un dossier se trouve à la place du fichier."},
-    {ENODEV, "Ce n'est pas un fichier."},
-    {ENAMETOOLONG, "Le nom est trop long."},
-    {EMFILE, "Trop de fichiers sont ouverts."},
-    {ENFILE, "Trop de fichiers sont ouverts."},
+    {ENOSPC, reason::disk_is_full},
+    {EDQUOT, reason::share_is_full},
+    {EACCES, reason::access_is_denied},
+    {EPERM, reason::access_is_denied},
+    {EROFS, reason::disk_is_protected},
+    {EIO, reason::disk_has_failed},
+    {ENOENT, reason::file_is_missing},
+    {ENOTDIR, reason::file_in_place_of_folder},
+    {EISDIR, reason::folder_in_place_of_file},
+    {ENODEV, reason::is_no_file},
+    {ENAMETOOLONG, reason::name_is_too_long},
+    {EMFILE, reason::too_many_open_files},
+    {ENFILE, reason::too_many_open_files},
 }};
 
 std::string reason_of(int number) {
-    for (auto const& reason : reasons) {
-        if (reason.number == number) return reason.text;
+    for (auto const& row : reasons) {
+        if (row.number == number) return row.text;
     }
-    return "Le système a signalé l'erreur " + std::to_string(number) + ".";
+    return reason::by_number(static_cast<unsigned long>(number));
 }
 
 [[noreturn]] void fail(char const* attempted, std::string const& file, int number) {
-    throw FatalError{std::string{attempted} + " du fichier « " + file + " » a échoué.",
-                     reason_of(number)};
+    navarun::fail(attempted, file, reason_of(number));
 }
-
-constexpr char const* reading = "La lecture";
-constexpr char const* writing = "L'écriture";
-constexpr char const* moving = "Le déplacement";
-constexpr char const* deleting = "La suppression";
 
 // An open file, closed with the block that holds it.
 class Descriptor {
@@ -122,17 +115,17 @@ void flush_folder(std::filesystem::path const& folder, char const* attempted,
 std::string read_file(std::filesystem::path const& path, std::string const& shown_as) {
     // Without waiting: what is no file must not keep the program for ever.
     Descriptor const file{open_file(path, O_RDONLY | O_NONBLOCK)};
-    if (!file.is_open()) fail(reading, shown_as, errno);
+    if (!file.is_open()) fail(attempt::reading, shown_as, errno);
     struct stat kind {};
-    if (::fstat(file.number(), &kind) != 0) fail(reading, shown_as, errno);
-    if (S_ISDIR(kind.st_mode)) fail(reading, shown_as, EISDIR);
-    if (!S_ISREG(kind.st_mode)) fail(reading, shown_as, ENODEV);
+    if (::fstat(file.number(), &kind) != 0) fail(attempt::reading, shown_as, errno);
+    if (S_ISDIR(kind.st_mode)) fail(attempt::reading, shown_as, EISDIR);
+    if (!S_ISREG(kind.st_mode)) fail(attempt::reading, shown_as, ENODEV);
     std::string bytes;
     std::array<char, 16384> block{};
     while (true) {
         auto const count = ::read(file.number(), block.data(), block.size());
         if (count < 0 && errno == EINTR) continue;
-        if (count < 0) fail(reading, shown_as, errno);
+        if (count < 0) fail(attempt::reading, shown_as, errno);
         if (count == 0) return bytes;
         bytes.append(block.data(), static_cast<std::size_t>(count));
     }
@@ -143,37 +136,38 @@ void write_file(std::filesystem::path const& path, std::string_view bytes,
     auto const folder = path.parent_path();
     auto const unfinished_path = folder / unfinished_file;
     Descriptor file{open_file(unfinished_path, O_WRONLY | O_CREAT | O_TRUNC)};
-    if (!file.is_open()) fail(writing, shown_as, errno);
+    if (!file.is_open()) fail(attempt::writing, shown_as, errno);
     Unfinished unfinished{unfinished_path};
     // Whom the old file was closed to, the new one is closed to as well.
     struct stat old {};
     if (::stat(path.c_str(), &old) == 0 && ::fchmod(file.number(), old.st_mode & 07777U) != 0) {
-        fail(writing, shown_as, errno);
+        fail(attempt::writing, shown_as, errno);
     }
-    if (!write_all(file.number(), bytes)) fail(writing, shown_as, errno);
-    if (::fsync(file.number()) != 0) fail(writing, shown_as, errno);
-    if (file.close_fails()) fail(writing, shown_as, errno);
-    if (::rename(unfinished_path.c_str(), path.c_str()) != 0) fail(writing, shown_as, errno);
+    if (!write_all(file.number(), bytes)) fail(attempt::writing, shown_as, errno);
+    if (::fsync(file.number()) != 0) fail(attempt::writing, shown_as, errno);
+    if (file.close_fails()) fail(attempt::writing, shown_as, errno);
+    if (::rename(unfinished_path.c_str(), path.c_str()) != 0)
+        fail(attempt::writing, shown_as, errno);
     unfinished.keep();
-    flush_folder(folder, writing, shown_as);
+    flush_folder(folder, attempt::writing, shown_as);
 }
 
 void move_file(std::filesystem::path const& source, std::filesystem::path const& target,
                std::string const& shown_as) {
     if (::rename(source.c_str(), target.c_str()) != 0) {
-        if (errno != EXDEV) fail(moving, shown_as, errno);
+        if (errno != EXDEV) fail(attempt::moving, shown_as, errno);
         // The folders lie on two disks.
         write_file(target, read_file(source, shown_as), shown_as);
         delete_file(source, shown_as);
         return;
     }
-    flush_folder(target.parent_path(), moving, shown_as);
-    flush_folder(source.parent_path(), moving, shown_as);
+    flush_folder(target.parent_path(), attempt::moving, shown_as);
+    flush_folder(source.parent_path(), attempt::moving, shown_as);
 }
 
 void delete_file(std::filesystem::path const& path, std::string const& shown_as) {
-    if (::unlink(path.c_str()) != 0) fail(deleting, shown_as, errno);
-    flush_folder(path.parent_path(), deleting, shown_as);
+    if (::unlink(path.c_str()) != 0) fail(attempt::deleting, shown_as, errno);
+    flush_folder(path.parent_path(), attempt::deleting, shown_as);
 }
 
 void remove_unfinished_file(std::filesystem::path const& folder) {
@@ -182,7 +176,7 @@ void remove_unfinished_file(std::filesystem::path const& folder) {
 }
 
 FolderLock::~FolderLock() {
-    if (m_descriptor >= 0) ::close(m_descriptor);
+    if (m_held >= 0) ::close(static_cast<int>(m_held));
 }
 
 bool FolderLock::take(std::filesystem::path const& folder) {
@@ -192,7 +186,7 @@ bool FolderLock::take(std::filesystem::path const& folder) {
         ::close(descriptor);
         return false;
     }
-    m_descriptor = descriptor;
+    m_held = descriptor;
     return true;
 }
 
