@@ -89,7 +89,8 @@ void print(fs::path const& folder, std::vector<Event> const& script) {
         Outcome const outcome = run.perform(event);
         if (run.began()) {
             std::cout << "\n"
-                      << as_request({.act = Act::clock, .control = first_date, .text = first_time})
+                      << as_request(
+                             {.act = Act::clock, .control = first_date, .text = first_time})
                       << "\n{\"op\":\"load\"}\n";
         }
         std::cout << as_request(event) << "\n";

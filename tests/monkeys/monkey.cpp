@@ -40,13 +40,30 @@ std::string Monkey::digits() {
 }
 
 std::string Monkey::text() {
-    static constexpr std::string_view usual[]{
-        "Zoe",       "Dupont",   "Jean-Pierre",  "élodie",      "ŁUKASZ",      "A. B",
-        "de la Tour", "www.a.fr", "une note\r\n", "17051962",    "Œuvre ÿ",     "x",
-        "Martin",    "Luc",      "zoe.gif",      "Ancien",      "été à Noël",  "",
-        "*",         "Rien",     "  ",           "une deux trois quatre cinq six sept huit"};
-    static constexpr std::string_view odd[]{"a/b",      "\"",     "..",   "con:",  "\t",
-                                            "日本",     "😀",     "\r",   "\x01",  "C:\\a",
+    static constexpr std::string_view usual[]{"Zoe",
+                                              "Dupont",
+                                              "Jean-Pierre",
+                                              "élodie",
+                                              "ŁUKASZ",
+                                              "A. B",
+                                              "de la Tour",
+                                              "www.a.fr",
+                                              "une note\r\n",
+                                              "17051962",
+                                              "Œuvre ÿ",
+                                              "x",
+                                              "Martin",
+                                              "Luc",
+                                              "zoe.gif",
+                                              "Ancien",
+                                              "été à Noël",
+                                              "",
+                                              "*",
+                                              "Rien",
+                                              "  ",
+                                              "une deux trois quatre cinq six sept huit"};
+    static constexpr std::string_view odd[]{"a/b",       "\"",     "..",  "con:", "\t",
+                                            "日本",      "😀",      "\r",  "\x01", "C:\\a",
                                             "\"a\",\"b", "#TRUE#", "a,b", "\x7f", "<>"};
     if (once_in(150)) return std::string{one_of(odd)};
     if (once_in(400)) return std::string(static_cast<std::size_t>(below(3000)), 'n');
@@ -75,11 +92,11 @@ screen::Control const* Monkey::pick(Program const& program) {
     for (int tries = 0; tries < 60; ++tries) {
         // The main window as often as all the others together.
         auto const* const form =
-            once_in(2) ? forms.front() : forms[static_cast<std::size_t>(below(
-                                             static_cast<int>(forms.size())))];
+            once_in(2) ? forms.front()
+                       : forms[static_cast<std::size_t>(below(static_cast<int>(forms.size())))];
         auto const heads = heads_of(*form);
-        auto const* control = heads[static_cast<std::size_t>(
-            below(static_cast<int>(heads.size())))];
+        auto const* control =
+            heads[static_cast<std::size_t>(below(static_cast<int>(heads.size())))];
         if (control->index()) {
             std::vector<screen::Control const*> members;
             for (auto const* other : form->controls()) {
@@ -124,9 +141,8 @@ Event Monkey::on_list(screen::List const& list) {
     int const act = below(8);
     if (act < 3) {
         // One beyond the last is what no user could choose.
-        return {.act = Act::choose,
-                .control = name_of(list),
-                .number = below(list.count() + 1)};
+        return {
+            .act = Act::choose, .control = name_of(list), .number = below(list.count() + 1)};
     }
     if (act < 4) return {.act = Act::double_click, .control = name_of(list)};
     if (act < 7) {
@@ -152,9 +168,9 @@ Event Monkey::on_picture(screen::Control const& control) {
 }
 
 Event Monkey::on_anything(screen::Control const& control) {
-    static constexpr Act acts[]{Act::click, Act::click, Act::click,        Act::click,
-                                Act::hover, Act::focus, Act::double_click, Act::key,
-                                Act::drop};
+    static constexpr Act acts[]{Act::click,        Act::click, Act::click,
+                                Act::click,        Act::hover, Act::focus,
+                                Act::double_click, Act::key,   Act::drop};
     Event event{.act = one_of(acts), .control = name_of(control)};
     static constexpr int codes[]{13, 27, 32, 46, 17, 8, 65};
     if (event.act == Act::key) event.number = one_of(codes);

@@ -141,8 +141,7 @@ void PracticeRun::act(Event const& event) {
             case Act::type:
                 return user.type(*control, event.text);
             case Act::set_text:
-                return user.set_text(dynamic_cast<screen::EntryControl&>(*control),
-                                     event.text);
+                return user.set_text(dynamic_cast<screen::EntryControl&>(*control), event.text);
             case Act::set_number:
                 if (auto* const box = dynamic_cast<screen::CheckBox*>(control)) {
                     return user.set_check(*box, event.number);

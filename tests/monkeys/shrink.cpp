@@ -59,8 +59,9 @@ bool simplify(Script& script, std::size_t place, Shows const& shows) {
         event.text, [](char c) { return static_cast<unsigned char>(c) < 128; });
     if (!is_text || !ascii || event.text.size() < 2) return false;
     auto const half = event.text.size() / 2;
-    for (auto const& part : {event.text.substr(0, half), event.text.substr(half),
-                             event.text.substr(1), event.text.substr(0, event.text.size() - 1)}) {
+    for (auto const& part :
+         {event.text.substr(0, half), event.text.substr(half), event.text.substr(1),
+          event.text.substr(0, event.text.size() - 1)}) {
         Event simpler = event;
         simpler.text = part;
         if (accept(std::move(simpler))) return true;
