@@ -150,6 +150,8 @@ void list_key_down(Program& program, int code) {
     auto& form = program.form1;
     bool const has_selection = form.File_Fichier.ListIndex >= 0;
     if (!browser_shows_images(program) && code == key::control && has_selection) {
+        // Whatever was asked about meanwhile: what is dragged is what is selected.
+        program.record_values.fichier_selectionne = form.File_Fichier.selected();
         form.Label_deplace.Left = program.browser.deplace_x;
         form.Label_deplace.Top = program.browser.deplace_y;
         program.screen.begin_drag(form.Label_deplace);

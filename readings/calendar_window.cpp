@@ -49,13 +49,15 @@ void follow_click_beyond_the_month(Program& program) {
     auto const& cell = program.frm_calend.btnJour(values.cal_case);
     std::string_view const tag = cell.Tag.get();
     if (tag == current_month) return;
+    values.cal_case = -1;
     int month = values.cal_annee_n * 12 + values.cal_mois_n - 1;
     month += tag == next_month ? 1 : -1;
+    // Where the calendar ends the view stays.
+    if (!date_of(1, month % 12 + 1, month / 12)) return;
     values.cal_annee = text::padded(month / 12, 4);
     values.cal_mois = text::padded(month % 12 + 1, 2);
     values.cal_jour = cell.Caption.get();
     refresh_numbers(values);
-    values.cal_case = -1;
 }
 
 void slide_into_the_month(CalendarValues& values) {
@@ -224,6 +226,8 @@ void day_clicked(Program& program, int index) {
 
 void year_clicked(Program& program) {
     auto& values = program.calendar;
+    // Beyond the years listed none is selected.
+    if (program.frm_calend.cAn.ListIndex < 0) return;
     values.cal_annee = text::padded(text::number_of(program.frm_calend.cAn.selected()), 4);
     values.cal_jour = text::two_digits(values.cal_jour);
     calculate_unless_running(program);

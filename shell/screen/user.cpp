@@ -27,6 +27,17 @@ bool is_text(EntryControl const& entry, char32_t character) {
     return character >= U' ' || (line_end && entry.kind() == Kind::text_area);
 }
 
+// One line is what a field shows and what a file name holds: the line end that comes along when
+// a name is copied from a page or a sheet is no part of it.
+std::string in_one_line(std::string text) {
+    auto const is_control = [](char c) {
+        return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
+    };
+    while (!text.empty() && is_control(text.back())) text.pop_back();
+    std::ranges::replace_if(text, is_control, ' ');
+    return text;
+}
+
 void fire(std::function<void()> const& event) {
     if (event) event();
 }
@@ -76,7 +87,9 @@ bool User::press(EntryControl& control, char32_t character) {
 void User::edit(EntryControl& control, std::string_view text, int caret) {
     require_usable(control);
     if (control.read_only()) refuse_kind(control);
-    control.edit(fitted_to_code_page(text), caret);
+    std::string taken = fitted_to_code_page(text);
+    if (control.kind() != Kind::text_area) taken = in_one_line(std::move(taken));
+    control.edit(std::move(taken), caret);
 }
 
 void User::set_text(EntryControl& control, std::string_view text) {

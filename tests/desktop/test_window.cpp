@@ -50,6 +50,17 @@ TEST_F(Window, WhatIsNoDigitNeverEntersADateField) {
     EXPECT_EQ(session().program().date_entry.nombre_touches, 0);
 }
 
+// A cell of a sheet is copied with its line end, which no file name bears.
+TEST_F(Window, ANamePastedWithItsLineEndIsTheName) {
+    form().Text_nom.Text = "";
+    click(form().Text_nom);
+    QApplication::clipboard()->setText(QStringLiteral("Dupont\tde Nemours\r\n"));
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(form().Text_nom.Text.get(), "Dupont de Nemours");
+    EXPECT_EQ(static_cast<QLineEdit&>(widget(form().Text_nom)).text(),
+              QStringLiteral("Dupont de Nemours"));
+}
+
 TEST_F(Window, DigitsOfAnInputMethodPassTheSameFilter) {
     click(form().Combo_moisNaiss);
     QInputMethodEvent event;

@@ -270,6 +270,21 @@ TEST_F(Browsing, ControlAndADropOnTheOtherFolderMoveTheRecord) {
     EXPECT_EQ(visit.text("dossier_actif"), "RESSOURCES/DATA1/");
 }
 
+// Found by the random user: an address looked at meanwhile is no record.
+TEST_F(Browsing, WhatIsDraggedIsTheSelectedRecordWhateverWasAskedMeanwhile) {
+    visit.open_browser();
+    visit.choose("File_Fichier", "Dupont Zoe.fcy");
+    visit.click("Bouton_Internet");
+    visit.choose("List_Internet", "fr.wikipedia.org");
+    visit.answer_next_box(2);
+    visit.click("Command_reset");
+    visit.key("File_Fichier", key_control);
+    EXPECT_EQ(visit.text("fichier_selectionne"), "Dupont Zoe.fcy");
+    EXPECT_TRUE(visit.drop("Charge(2)").contains("ok"));
+    EXPECT_EQ(names_in(visit.data(2)),
+              (std::vector<std::string>{"Dupont Zoe.fcy", "Martin Luc.fcy"}));
+}
+
 // Either button means the other folder.
 TEST_F(Browsing, ADropOnTheActiveFoldersButtonMovesAllTheSame) {
     visit.click("Charge(1)");

@@ -401,6 +401,33 @@ TEST(CalendarWindow, AYearChosenFromBeyondTheListComesBackIntoIt) {
     EXPECT_EQ(calendar.date(), "mercredi 05 janvier 2000");
 }
 
+// Found by the random user: there is no year to go to.
+TEST(CalendarWindow, AClickOnTheYearListWithoutASelectionLeavesTheView) {
+    Visit visit{"15/12/2199"};
+    visit.click("MnuCalendrier");
+    visit.click("frmCalend.btnJour(41)");
+    ASSERT_EQ(visit.number("frmCalend.cAn.ListIndex"), -1);
+    std::string const day = visit.text("frmCalend.lblDate.Caption");
+    visit.click("frmCalend.cAn");
+    EXPECT_EQ(visit.text("frmCalend.lblDate.Caption"), day);
+    EXPECT_EQ(visit.text("cal_annee"), "2200");
+}
+
+// Found by the random user: dates are of the years 1 to 9999.
+TEST(CalendarWindow, AtTheEndsOfTheCalendarTheViewStays) {
+    for (char const* const end : {"01/01/0001", "31/12/9999"}) {
+        Visit visit{end};
+        visit.click("MnuCalendrier");
+        std::string const month = visit.text("cal_mois");
+        int const beyond = month == "01" ? 0 : 41;
+        ASSERT_NE(visit.text("frmCalend.btnJour(" + std::to_string(beyond) + ").Tag"), "0");
+        visit.click("frmCalend.btnJour(" + std::to_string(beyond) + ")");
+        EXPECT_EQ(visit.text("cal_mois"), month);
+        EXPECT_EQ(visit.text("cal_annee"), std::string{end}.substr(6));
+        EXPECT_EQ(visit.number("frmCalend.cMois.ListIndex"), month == "01" ? 0 : 11);
+    }
+}
+
 TEST(CalendarWindow, ADayClickTakesTheKeyboardOffTheButtons) {
     Calendar calendar;
     calendar.pick_day(7);
