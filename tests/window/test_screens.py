@@ -11,7 +11,7 @@ With FOLDER the pictures of the screens are kept there.
 import os
 import sys
 
-sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "../support"))
 from desk import Desk, wait_for
 
 DESIGNED = (801, 512)  # pixels at scale 1, without the menu bar

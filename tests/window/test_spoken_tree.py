@@ -12,7 +12,7 @@ import os
 import re
 import sys
 
-sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "../support"))
 from desk import Desk, wait_for
 
 # Holds other controls, or is there for the eye alone.

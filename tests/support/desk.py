@@ -54,8 +54,10 @@ class Desk:
     def _set_up(self):
         self.folder = self._open.enter_context(tempfile.TemporaryDirectory(prefix="navarun-"))
         reader, writer = os.pipe()
+        # The picture of the screen lies in a file, where it is read without asking anybody.
         self._start(
-            ["Xvfb", "-displayfd", str(writer), "-screen", "0", self.size + "x24", "-nolisten", "tcp", "-noreset"],
+            ["Xvfb", "-displayfd", str(writer), "-screen", "0", self.size + "x24", "-nolisten", "tcp",
+             "-noreset", "-fbdir", self.folder],
             dict(os.environ),
             pass_fds=[writer],
         )
@@ -102,9 +104,9 @@ class Desk:
             command, env=self.environment, capture_output=True, timeout=PATIENCE
         ).stdout
 
-    def start(self, program, **environment):
-        """Starts the program in a folder of its own; the process."""
-        place = tempfile.mkdtemp(dir=self.folder)
+    def start(self, program, place=None, **environment):
+        """Starts the program in the folder `place`, else in one of its own; the process."""
+        place = place or tempfile.mkdtemp(dir=self.folder)
         copy = shutil.copy(program, os.path.join(place, "navarun"))
         return self._start([copy], dict(self.environment, **environment))
 

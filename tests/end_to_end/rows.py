@@ -1,0 +1,107 @@
+"""Rows that a day is made of: each says what the hand does and what the same is for the pilot."""
+
+from day import Row
+from model import TWIPS
+
+
+def ask(operation, control, **more):
+    return {"op": operation, "control": control, **more}
+
+
+def click(name, told=None, times=1):
+    requests = [ask("hover", name)] + [ask("click", name)] * times
+    return Row(told or f"clicks {name}", [("click", name)] * times, requests)
+
+
+def double_click(name, told=None):
+    return Row(
+        told or f"double clicks {name}",
+        [("double click", name)],
+        [ask("hover", name), ask("click", name), ask("dblclick", name)],
+    )
+
+
+def write(name, text, told=None):
+    """Clicks an empty field and types."""
+    return Row(
+        told or f"types {text!r} in {name}",
+        [("click", name), ("type", text)],
+        [ask("hover", name), ask("click", name), ask("type", name, text=text)],
+    )
+
+
+def menu(name, told=None, **answers):
+    return Row(told or f"takes {name}", [("menu", name)], [ask("click", name)])
+
+
+def answered(row, value):
+    """The row, its question answered: 1 by Enter, 2 by Escape."""
+    return Row(row.told, row.hand, [{"op": "answer", "value": value}, *row.requests], row.eye)
+
+
+def moved(operation, name):
+    """Asks for what the window's bar stands at."""
+
+    def requests(day):
+        bar = day.hand.node(name).get_value_iface()
+        return [ask(operation, name, value=int(bar.get_current_value()))]
+
+    return requests
+
+
+def trough(name, right, told=None):
+    # Beside the arrow, far from the thumb.
+    return Row(
+        told or f"clicks in the trough of {name}",
+        [("click at", name, -26 if right else 26, 8)],
+        moved("set", name),
+    )
+
+
+def arrow(name, right):
+    return Row(f"clicks an arrow of {name}", [("click at", name, -6 if right else 6, 8)],
+               moved("set", name))
+
+
+def thumb(name, start, end):
+    return Row(f"drags the thumb of {name}", [("thumb", name, start, end)], moved("drag", name))
+
+
+def entry(name, index, told=None):
+    return Row(told or f"clicks entry {index} of {name}", [("entry", name, index)],
+               [ask("choose", name, index=index)])
+
+
+def double_click_entry(name, index, told=None):
+    return Row(told or f"double clicks entry {index} of {name}", [("entry", name, index, 2)],
+               [ask("choose", name, index=index), ask("dblclick", name)])
+
+
+def close(form):
+    return Row(f"closes {form} by its frame", [("close", form)], [{"op": "close", "form": form}])
+
+
+def draw(x1, y1, x2, y2):
+    """An arrow on the chart, from one place to another in its pixels."""
+    chart = "Picture_KUNDALI"
+
+    def at(event, button, x, y):
+        return ask("mouse", chart, event=event, button=button, x=x * TWIPS, y=y * TWIPS)
+
+    from hand import STEPS
+
+    moves = [
+        at("move", 1, x1 + (x2 - x1) * step // STEPS, y1 + (y2 - y1) * step // STEPS)
+        for step in range(1, STEPS + 1)
+    ]
+    return Row(
+        f"draws an arrow from {x1}, {y1} to {x2}, {y2}",
+        [("drag", chart, x1, y1, x2, y2)],
+        [
+            at("move", 0, x1, y1),
+            at("down", 1, x1, y1),
+            *moves,
+            at("up", 1, x2, y2),
+            ask("click", chart),
+        ],
+    )
