@@ -3,6 +3,7 @@
 #include "shell/option_impression.h"
 
 #include "periods/lord_circle.h"
+#include "shell/window_design.h"
 
 namespace navarun {
 
@@ -11,38 +12,30 @@ namespace {
 using screen::Alignment;
 using screen::Colour;
 using screen::Design;
-using screen::Font;
-using screen::Place;
+using namespace window_design;
 
 constexpr int window_width = 3375;
 // Left edge of the last check box of a row.
 constexpr int last_column = 2040;
 
-constexpr Colour azure_small_window{0xB4CEFC};
-constexpr Colour title_band{0x2C8EDC};
 constexpr Colour span_blue{0x0000C0};
 constexpr Colour age_green{0xC0FFC0};
-
-constexpr Font arial{.name = "Arial", .size = 12};
-constexpr Font arial_bold{.name = "Arial", .size = 12, .bold = true};
-constexpr Font narrow{.name = "Arial Narrow", .size = 12};
-constexpr Font box_font{.name = "Arial Narrow", .size = 11.25};
 
 Design age_design(int index) {
     switch (index) {
         case 0:
             return {.place = {240, 540, 855, 255},
-                    .font = arial,
+                    .font = arial(12),
                     .fore = span_blue,
                     .align = Alignment::centre};
         case 1:
             return {.place = {2280, 540, 975, 255},
-                    .font = arial,
+                    .font = arial(12),
                     .fore = span_blue,
                     .align = Alignment::centre};
         default:
             return {.place = {1540, 540, 380, 255},
-                    .font = arial_bold,
+                    .font = {.name = "Arial", .size = 12, .bold = true},
                     .back = age_green,
                     .opaque = true,
                     .align = Alignment::centre,
@@ -51,7 +44,7 @@ Design age_design(int index) {
 }
 
 Design date_design(int index) {
-    return {.place = {index == 0 ? 120 : 2280, 840, 975, 255}, .font = narrow};
+    return {.place = {index == 0 ? 120 : 2280, 840, 975, 255}, .font = narrow(12)};
 }
 
 Design box_design(int left, int top, std::string_view text, std::string_view tooltip) {
@@ -59,30 +52,24 @@ Design box_design(int left, int top, std::string_view text, std::string_view too
     int const width = left == last_column ? window_width - left : 1080;
     return {.place = {left, top, width, 330},
             .text = text,
-            .font = box_font,
+            .font = narrow(11.25),
             .back = azure_small_window,
             .tooltip = tooltip};
+}
+
+Design title_design() {
+    Design design = title({0, 0, window_width, 495}, {.name = "MS Sans Serif", .size = 13.5});
+    design.text = "Option d'impression";
+    design.border = true;
+    return design;
 }
 
 }  // namespace
 
 Option_impression::Option_impression(screen::Screen& screen_)
-    : Form{screen_,
-           "Option_impression",
-           {.place = {3480, 2400, window_width, 3240},
-            .text = "Option Impression",
-            .back = azure_small_window,
-            .visible = false}},
-      Label_option_impression{*this,
-                              "Label_option_impression",
-                              {.place = {0, 0, window_width, 495},
-                               .text = "Option d'impression",
-                               .font = {.name = "MS Sans Serif", .size = 13.5},
-                               .fore = screen::white,
-                               .back = title_band,
-                               .opaque = true,
-                               .border = true,
-                               .align = Alignment::centre}},
+    : Form{screen_, "Option_impression",
+           window({3480, 2400, window_width, 3240}, "Option Impression")},
+      Label_option_impression{*this, "Label_option_impression", title_design()},
       Label_age{*this, "Label_age", {0, 1, 2}, age_design},
       Label_afficheAnnee{*this, "Label_afficheAnnee", {0, 1}, date_design},
       Btn_remise1{*this,

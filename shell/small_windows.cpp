@@ -2,7 +2,7 @@
 // the chart stays in sight.
 #include "shell/small_windows.h"
 
-#include "core/text.h"
+#include "shell/window_design.h"
 
 namespace navarun {
 
@@ -11,28 +11,8 @@ namespace {
 using screen::Alignment;
 using screen::Colour;
 using screen::Design;
-using screen::Font;
 using screen::Place;
-
-constexpr Font arial(double size) { return {.name = "Arial", .size = size}; }
-constexpr Font narrow(double size) { return {.name = "Arial Narrow", .size = size}; }
-
-constexpr Colour azure_small_window{0xB4CEFC};
-constexpr Colour azure_list{0xCCE2FC};
-constexpr Colour title_band{0x2C8EDC};
-
-Design window(Place place, std::string_view caption) {
-    return {.place = place, .text = caption, .back = azure_small_window, .visible = false};
-}
-
-Design title(Place place, Font font) {
-    return {.place = place,
-            .font = font,
-            .fore = screen::white,
-            .back = title_band,
-            .opaque = true,
-            .align = Alignment::centre};
-}
+using namespace window_design;
 
 std::vector<int> indexes(int first, int last) {
     std::vector<int> all;
