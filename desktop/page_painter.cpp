@@ -29,10 +29,11 @@ class OperationPainter {
           m_device{device} {}
 
     void operator()(screen::PageStroke const& stroke) const {
+        double const pixel = 1 / m_painter.device()->devicePixelRatioF();
         double const width = stroke_inches * m_scale;
-        m_painter.setPen(QPen{Qt::black,
-                              m_device == PageDevice::screen ? std::max(width, 1.0) : width,
-                              Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin});
+        double const least = m_device == PageDevice::screen ? pixel : 0;
+        m_painter.setPen(
+            QPen{Qt::black, std::max(width, least), Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin});
         m_painter.setBrush(Qt::NoBrush);
         m_painter.setRenderHint(QPainter::Antialiasing, m_device == PageDevice::paper);
         QPointF const from = place(stroke.x1, stroke.y1);
