@@ -114,6 +114,8 @@ void ListView::choose(int row) {
 
 void ListView::show_content() {
     auto& view = shown();
+    // Of a list the toolkit tells screen readers no tool tip by itself.
+    view.setAccessibleDescription(view.toolTip());
     view.setFont(font_of(control()));
     set_colour(view, QPalette::Base, to_qt(control().BackColor.get()));
     set_colour(view, QPalette::Text, to_qt(control().ForeColor.get()));

@@ -7,10 +7,11 @@ After each row all that the windows tell and show is compared with the pilot's v
 import contextlib
 import dataclasses
 import os
-import shutil
+import signal
+import sys
 import time
 
-from desk import Desk, wait_for
+from desk import Desk, end_with_parent, wait_for
 from eye import Eye
 
 DATE, TIME = ("21/11/2026", "2026-11-21"), "10:15:00"
@@ -56,6 +57,8 @@ class Day:
         os.makedirs(self._pictures, exist_ok=True)
         self.desk = self._open.enter_context(Desk("1600x1000"))
         self.eye = Eye(self.desk.folder)
+        # The keyboard of a French practitioner, which has the accented letters.
+        self.desk.run(["setxkbmap", "fr"])
         # What would be opened outside is noted down instead.
         self.opened = os.path.join(self.desk.folder, "opened")
         os.makedirs(self.opened)
@@ -115,6 +118,8 @@ class Day:
 
     def step(self, row):
         self.steps += 1
+        if "TELL_STEPS" in os.environ:
+            print(f"{time.monotonic():.1f} {self.steps}: {row.told}", flush=True)
         try:
             late = callable(row.requests)
             effects = [] if late else self._ask(row.requests)
@@ -125,7 +130,11 @@ class Day:
             for effect in effects:
                 self._meet(effect)
             if self.pilot.ended:
-                wait_for(lambda: self.process.poll() is not None, "the end of the program")
+                status = wait_for(
+                    lambda: None if self.process.poll() is None else [self.process.returncode],
+                    "the end of the program",
+                )
+                assert status == [0], f"the program ended with {status}"
                 return
             if late:
                 effects = self._ask(row.requests(self))
@@ -144,9 +153,9 @@ class Day:
 
     def _ask(self, requests):
         for request in requests:
-            self.pilot.ask(request)
+            answer = self.pilot.ask(request)
             if self.pilot.ended:
-                return []
+                return answer["effects"]
         return self.pilot.effects()
 
     def _meet(self, effect):
@@ -158,7 +167,8 @@ class Day:
             words = effect["text"].replace("\r\n", "\n")
             assert words in told[1], f"the box {told}, should say {words!r}"
             self.hand.do(("keys", "Return" if effect["answer"] == 1 else "Escape"))
-            wait_for(lambda: self.windows.dialog() != told, "the box gone")
+            if not self.pilot.ended:
+                wait_for(lambda: self.windows.dialog() != told, "the box gone")
         elif kind == "message":
             words = "Message: " + " ".join(effect["text"].split()).rstrip(" .")
             form = self.forms["Form1"]
@@ -187,10 +197,14 @@ class Day:
 
     def _compare(self, row, effects):
         end = time.monotonic() + SETTLED
+        tries = 0
         while True:
+            tries += 1
             found = self.windows.differences(self.forms)
             if not found and row.eye:
                 found = self._seen()
+            if "TELL_STEPS" in os.environ:
+                print(f"    {time.monotonic() - end + SETTLED:.2f} {tries} {found[:3]}", flush=True)
             if not found:
                 return
             if time.monotonic() > end:
@@ -246,3 +260,14 @@ class Day:
             f"{self.name}: {self.steps} steps; the longest until the window answered again: "
             f"{self.longest * 1000:.0f} ms ({self.longest_step})"
         )
+
+
+def play_day(name, rows, fill=None):
+    """Plays a day named on the command line: NAVARUN PILOTE PICTURES. `rows` may be a function
+    of the day, for what only the day knows."""
+    end_with_parent()
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit("ended from outside"))
+    with Day(name, *sys.argv[1:4], fill) as day:
+        day.play(rows(day) if callable(rows) else rows)
+        print(day.told())
+        print("the same bytes in both folders:", ", ".join(day.compare_folders()))

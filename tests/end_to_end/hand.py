@@ -95,9 +95,14 @@ class Hand:
     def _entry(self, name, index, times=1):
         """Clicks an entry of a list; what is not in sight is scrolled to."""
         row = self.node(name).get_child_at_index(index)
-        x, y, width, height = extents(row)
         left, top, w, h = self.rectangle(name)
-        assert top <= y and y + height <= top + h, f"entry {index} of {name} is not in sight"
+        for _ in range(200):
+            x, y, width, height = extents(row)
+            if top <= y and y + height <= top + h:
+                break
+            self._xdo("mousemove", left + w // 3, top + h // 2, "click", 4 if y < top else 5)
+        else:
+            raise AssertionError(f"entry {index} of {name} is not in sight")
         self._xdo(
             "mousemove", left + w // 3, y + height // 2,
             "click", "--repeat", times, "--delay", 40, 1,

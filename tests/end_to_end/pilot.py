@@ -3,6 +3,8 @@
 import json
 import subprocess
 
+from desk import end_with_parent
+
 # The forms whose values are compared with what their windows show.
 FORMS = (
     "Form1",
@@ -27,7 +29,11 @@ class Pilot:
     def __init__(self, program, folder, date, time):
         self._clock = {"op": "clock", "date": date, "time": time}
         self._process = subprocess.Popen(
-            [program, folder], stdin=subprocess.PIPE, stdout=subprocess.PIPE, encoding="utf-8"
+            [program, folder],
+            stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE,
+            encoding="utf-8",
+            preexec_fn=end_with_parent,
         )
         self.ended = False
 

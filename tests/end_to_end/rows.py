@@ -77,6 +77,10 @@ def double_click_entry(name, index, told=None):
                [ask("choose", name, index=index), ask("dblclick", name)])
 
 
+def choose(name, item):
+    return Row(f"chooses {item} in {name}", [("choose", name, item)], [ask("choose", name, item=item)])
+
+
 def close(form):
     return Row(f"closes {form} by its frame", [("close", form)], [{"op": "close", "form": form}])
 

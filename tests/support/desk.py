@@ -5,6 +5,7 @@ something to be seen, with a patience that only a broken program exhausts.
 """
 
 import contextlib
+import ctypes
 import os
 import shutil
 import signal
@@ -13,6 +14,14 @@ import tempfile
 import time
 
 PATIENCE = 60  # seconds
+_PR_SET_PDEATHSIG = 1
+_prctl = ctypes.CDLL(None).prctl
+
+
+def end_with_parent():
+    """Has the calling process ended when its parent ends, however that may come: what a test has
+    started outlives it in no case."""
+    _prctl(_PR_SET_PDEATHSIG, signal.SIGTERM, 0, 0, 0)
 
 
 def wait_for(what, told):
@@ -93,6 +102,7 @@ class Desk:
             stdin=subprocess.DEVNULL,
             stdout=subprocess.DEVNULL,
             stderr=subprocess.DEVNULL,
+            preexec_fn=end_with_parent,
             **more,
         )
         self._open.callback(_end, process)

@@ -1,0 +1,117 @@
+#!/usr/bin/env python3
+"""A day with the records: kept, found, moved, deleted; portraits; the address book.
+
+usage: test_records.py NAVARUN PILOTE PICTURES DRAG_SOURCE, inside a message bus of its own.
+"""
+
+import os
+import sys
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+sys.path[:0] = [HERE, os.path.join(HERE, "../support")]
+from PIL import Image
+
+from day import Row, play_day
+from rows import *
+
+LIST, SEARCH, CONTROL, ERASE, ENTER = "File_Fichier", "Text_Cherche", 17, 46, 13
+
+
+def fill(folder):
+    """Records of former days and some portraits."""
+    data = os.path.join(folder, "RESSOURCES", "DATA1")
+    images = os.path.join(folder, "RESSOURCES", "IMAGE")
+    for place in (data, images):
+        os.makedirs(place)
+    for first, last in (("Alix", "Essai"), ("Luc", "Martin"), ("Zoé", "Témoin")):
+        record = f'"{first}","{last}","03","11","19","71",0,"","Note de {first}"\r\n'
+        with open(os.path.join(data, f"{last} {first}.fcy"), "wb") as file:
+            file.write(record.encode("cp1252"))
+    Image.new("RGB", (200, 300), (200, 60, 60)).save(os.path.join(images, "rouge.jpg"))
+    Image.new("RGB", (400, 200), (40, 90, 200)).save(os.path.join(images, "bleu.bmp"))
+
+
+def dropped(folder):
+    file = os.path.join(folder, "vert.bmp")
+    Image.new("RGB", (130, 180), (40, 160, 60)).save(file)
+    return file
+
+
+def key(name, told, code, *keys):
+    return Row(told, [("keys", *keys)], [ask("key", name, code=code)])
+
+
+KEEP_ONE = [
+    write("Text_prenom", "Camille"),
+    write("Text_nom", "Exemple"),
+    write("Combo_jourNaiss", "22101986"),
+    click("Command2"),
+    write("Text_Note", "Changer de métier ?"),
+    click("Command_Disk_Vert", "saves"),
+    Row("writes more", [("click", "Text_Note"), ("keys", "ctrl+End"), ("type", " Oui.")],
+        [ask("type", "Text_Note", text=" Oui.")]),
+    answered(click("Command_Disk_Vert", "saves over it, but is not sure"), 2),
+    answered(click("Command_Disk_Vert", "saves over it"), 1),
+]
+FIND = [
+    click("Charge(1)", "opens the first folder"),
+    Row("searches", [("type", "mar")], [ask("type", SEARCH, text="mar")]),
+    key(SEARCH, "loads what was found by Enter", ENTER, "Return"),
+    click("Charge(1)", "opens the folder again"),
+    Row("searches for nobody", [("type", "xyz")], [ask("type", SEARCH, text="xyz")]),
+    click("Charge(1)", "closes it"),
+    click("Charge(1)", "opens it"),
+    entry(LIST, 0),
+    Row("goes down by the keyboard", [("keys", "Down")], [ask("choose", LIST, index=1)]),
+    double_click_entry(LIST, 0, "loads by a double click"),
+]
+MOVE = [
+    click("Charge(1)", "opens the first folder"),
+    entry(LIST, 2, "selects a record"),
+    key(LIST, "takes it up by Control", CONTROL, "Control_L"),
+    Row("lets it go on the other folder", [("click", "Charge(2)")], [ask("drop", "Charge(2)")]),
+    entry(LIST, 0, "selects another"),
+    key(LIST, "takes it up", CONTROL, "Control_L"),
+    Row("and leaves it by Escape", [("keys", "Escape")], [ask("focus", LIST)]),
+    click("Charge(1)", "closes the folder"),
+    click("Charge(2)", "opens the other folder"),
+    click("Charge(2)", "closes it"),
+]
+DELETE = [
+    click("Charge(1)", "opens the first folder"),
+    entry(LIST, 0, "selects a record"),
+    Row("would delete it, but does not", [("keys", "Delete")],
+        [{"op": "answer", "value": 2}, ask("key", LIST, code=ERASE)]),
+    Row("deletes it", [("keys", "Delete")], [{"op": "answer", "value": 1}, ask("key", LIST, code=ERASE)]),
+    click("Command_reset", "wants to delete with nothing selected"),
+    entry(LIST, 0, "selects another"),
+    answered(click("Command_reset", "deletes by the button"), 1),
+    click("Charge(1)", "closes the folder"),
+]
+PORTRAIT = [
+    write("Text_prenom", "x"),
+    click("Bouton_Image", "opens the images"),
+    entry(LIST, 0, "selects one"),
+    double_click_entry(LIST, 0, "takes it"),
+    Row("points at it", [("point", "Picture_PHOTO")], [ask("hover", "Picture_PHOTO")]),
+    click("Bouton_Image", "opens the images again"),
+    double_click_entry(LIST, 1, "takes the other"),
+    double_click("Picture_PHOTO", "goes back to Ganesha"),
+]
+ADDRESSES = [
+    click("Bouton_Internet", "opens the addresses"),
+    Row("writes an address", [("click", "Text_New_URL"), ("keys", "End"), ("type", "exemple.fr"), ("keys", "Return")],
+        [ask("set", "Text_New_URL", value="www.exemple.fr"), ask("key", "Text_New_URL", code=ENTER)]),
+    entry("List_Internet", 0),
+    double_click_entry("List_Internet", 0, "opens one"),
+    click("Bouton_Internet", "closes the addresses"),
+]
+LEAVE = [answered(menu("MnuQuitter", "leaves"), 1)]
+
+
+def rows(day):
+    yield from KEEP_ONE + FIND + MOVE + DELETE + PORTRAIT
+    yield from ADDRESSES + LEAVE
+
+
+play_day("records", rows, fill)
