@@ -247,9 +247,8 @@ bool texts_fit_the_files(Standing const& now) {
 }
 
 bool weekday_is_that_of_the_birth(Standing const& now) {
-    auto const& entry = now.program.date_entry;
-    return entry.weekday_of_date == now.person.birth.date_naissance() &&
-           entry.weekday_of_julian == now.form.Mnu_Julien.Checked;
+    auto const day = day_looked_up(now);
+    return !day || now.person.numero_jour == weekday_of(*day);
 }
 
 bool diskette_and_bin_have_a_known_picture(Standing const& now) {
@@ -302,7 +301,7 @@ constexpr Promise promises[]{
     {"no key stays held", no_key_is_held},
     {"the date fields hold at most two digits", date_fields_hold_digits},
     {"what is written can be kept in a file", texts_fit_the_files},
-    {"weekday and numbers are those of the birth", weekday_is_that_of_the_birth},
+    {"the weekday is that of the birth", weekday_is_that_of_the_birth},
     {"diskette and bin have one of their pictures", diskette_and_bin_have_a_known_picture},
     {"the keyboard is on a control that takes it", focus_is_on_what_takes_it},
     {"the calendar stands on a day", calendar_stands_on_a_day},
