@@ -1,6 +1,7 @@
 // The conversions.
 #include "desktop/to_qt.h"
 
+#include <QFontDatabase>
 #include <QTextDocument>
 
 namespace navarun::desktop {
@@ -41,8 +42,25 @@ QColor deep_tone_on(QColor const& ground) {
                                                 : QColor{0x0B, 0x3A, 0x66};
 }
 
+QFont font_named(std::string_view name) {
+    QFont font{to_qt(name)};
+#ifdef Q_OS_WIN
+    // The first is kept there in a few sizes of dots; the other has the same widths in
+    // outlines.
+    if (name == "MS Sans Serif") font.setFamily(QStringLiteral("Microsoft Sans Serif"));
+    // Not every Windows has the narrow one.
+    constexpr int narrow_to_wide = 82;  // percent
+    if (name == "Arial Narrow" && !QFontDatabase::hasFamily(font.family()) &&
+        !QFontDatabase::hasFamily(QFont::substitute(font.family()))) {
+        font.setFamily(QStringLiteral("Arial"));
+        font.setStretch(narrow_to_wide);
+    }
+#endif
+    return font;
+}
+
 QFont font_of(screen::TextControl const& control) {
-    QFont font{to_qt(control.FontName.get())};
+    QFont font = font_named(control.FontName.get());
     font.setPixelSize(qRound(control.FontSize.get() * 4 / 3));
     font.setBold(control.FontBold);
     font.setItalic(control.FontItalic);
