@@ -2,6 +2,7 @@
 #include "desktop/to_qt.h"
 
 #include <QFontDatabase>
+#include <QHash>
 #include <QTextDocument>
 
 namespace navarun::desktop {
@@ -42,20 +43,38 @@ QColor deep_tone_on(QColor const& ground) {
                                                 : QColor{0x0B, 0x3A, 0x66};
 }
 
-QFont font_named(std::string_view name) {
-    QFont font{to_qt(name)};
+namespace {
+
+// The font itself or, where it is not installed, its stand-in: under one name the fonts that
+// look the same are looked up and loaded once.
+QString installed_family(QString const& name) {
+    static QHash<QString, QString> known{
 #ifdef Q_OS_WIN
-    // The first is kept there in a few sizes of dots; the other has the same widths in
-    // outlines.
-    if (name == "MS Sans Serif") font.setFamily(QStringLiteral("Microsoft Sans Serif"));
-    // Not every Windows has the narrow one.
+        // Kept there in a few sizes of dots; its successor has the same widths in outlines.
+        {QStringLiteral("MS Sans Serif"), QStringLiteral("Microsoft Sans Serif")},
+#endif
+    };
+    auto& family = known[name];
+    if (!family.isEmpty()) return family;
+    family = name;
+    if (QFontDatabase::hasFamily(name)) return family;
+    for (auto const& stand_in : QFont::substitutes(name)) {
+        if (QFontDatabase::hasFamily(stand_in)) return family = stand_in;
+    }
+    return family;
+}
+
+}  // namespace
+
+QFont font_named(std::string_view name) {
+    QString const family = installed_family(to_qt(name));
+    QFont font{family};
+    // Not every Windows has the narrow one, nor a stand-in: the wide one is drawn narrow.
     constexpr int narrow_to_wide = 82;  // percent
-    if (name == "Arial Narrow" && !QFontDatabase::hasFamily(font.family()) &&
-        !QFontDatabase::hasFamily(QFont::substitute(font.family()))) {
-        font.setFamily(QStringLiteral("Arial"));
+    if (name == "Arial Narrow" && !QFontDatabase::hasFamily(family)) {
+        font.setFamily(installed_family(QStringLiteral("Arial")));
         font.setStretch(narrow_to_wide);
     }
-#endif
     return font;
 }
 
