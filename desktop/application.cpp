@@ -6,11 +6,11 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPalette>
-#include <QStandardPaths>
 #include <QToolTip>
 #include <QTranslator>
 
 #include "desktop/compact_style.h"
+#include "desktop/drawn_picture.h"
 #include "desktop/spoken.h"
 
 namespace navarun::desktop {
@@ -63,7 +63,7 @@ QPalette own_palette() {
 void set_up(QApplication& application) {
     QApplication::setApplicationName(QStringLiteral("N.A.V.A.R.U.N"));
     QApplication::setApplicationVersion(QStringLiteral(NAVARUN_VERSION));
-    QApplication::setWindowIcon(QIcon{QStringLiteral(":/pictures/navarun.svg")});
+    QApplication::setWindowIcon(icon_of(QStringLiteral("navarun")));
     // Under this name the desktop knows the program's entry in its menus.
     QApplication::setDesktopFileName(QStringLiteral("fr.navarun.Navarun"));
     QApplication::setStyle(new CompactStyle);
@@ -81,8 +81,10 @@ void set_up(QApplication& application) {
     QLocale const french{QLocale::French, QLocale::France};
     QLocale::setDefault(french);
     auto* const translator = new QTranslator{&application};
-    if (translator->load(french, QStringLiteral("qtbase"), QStringLiteral("_"),
-                         QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    // The program brings them along where the toolkit is part of it.
+    bool const own_words = translator->load(QStringLiteral(":/translations/qtbase_fr.qm"));
+    if (own_words || translator->load(french, QStringLiteral("qtbase"), QStringLiteral("_"),
+                                      QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QApplication::installTranslator(translator);
     }
 
@@ -90,17 +92,10 @@ void set_up(QApplication& application) {
     QFont::insertSubstitution(QStringLiteral("Arial"), QStringLiteral("Liberation Sans"));
     QFont::insertSubstitution(QStringLiteral("MS Sans Serif"),
                               QStringLiteral("Liberation Sans"));
+    QFont::insertSubstitution(QStringLiteral("Microsoft Sans Serif"),
+                              QStringLiteral("Liberation Sans"));
     QFont::insertSubstitution(QStringLiteral("Arial Narrow"),
                               QStringLiteral("Liberation Sans Narrow"));
-}
-
-std::filesystem::path application_folder(char const* started_as) {
-    std::filesystem::path path{started_as};
-    if (!path.has_parent_path()) {
-        // Found along the search path.
-        path = QStandardPaths::findExecutable(QString::fromLocal8Bit(started_as)).toStdString();
-    }
-    return std::filesystem::absolute(path).parent_path();
 }
 
 }  // namespace navarun::desktop

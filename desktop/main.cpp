@@ -3,6 +3,7 @@
 
 #include "desktop/application.h"
 #include "desktop/session.h"
+#include "desktop/started_program.h"
 
 int main(int argc, char** argv) {
     // Only there can a window be kept above or below all others.

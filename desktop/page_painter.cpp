@@ -125,7 +125,7 @@ class OperationPainter {
 }  // namespace
 
 QFont page_font(screen::PageText const& text, double ratio) {
-    QFont font{to_qt(text.font)};
+    QFont font = font_named(text.font);
     font.setPixelSize(
         std::max(1, qRound(text.size / ratio / points_per_inch * page_text_units)));
     font.setBold(text.bold);

@@ -1,7 +1,6 @@
 // Rendering of the pictures.
 #include "desktop/pictures.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QImageReader>
@@ -12,11 +11,10 @@ namespace navarun::desktop {
 
 namespace {
 
-// "Image_Kundali(2)" is kept as Image_Kundali_2.svg, a single picture under its own name.
-QString resource_of(std::string const& name) {
+// "Image_Kundali(2)" is kept as Image_Kundali_2, a single picture under its own name.
+QString file_of(std::string const& name) {
     QString file = QString::fromStdString(name);
-    file.replace(QLatin1Char('('), QLatin1Char('_')).remove(QLatin1Char(')'));
-    return QStringLiteral(":/pictures/%1.svg").arg(file);
+    return file.replace(QLatin1Char('('), QLatin1Char('_')).remove(QLatin1Char(')'));
 }
 
 // Where the hand points, at its nominal size.
@@ -24,31 +22,27 @@ constexpr QPoint hand_hot_spot{12, 5};
 
 }  // namespace
 
-QSvgRenderer* Pictures::renderer(std::string const& name) {
+DrawnPicture const* Pictures::picture(std::string const& name) {
     if (name.empty()) return nullptr;
-    auto& known = m_renderers[name];
-    if (!known) {
-        known = std::make_unique<QSvgRenderer>();
-        QString const resource = resource_of(name);
-        if (QFile::exists(resource)) known->load(resource);
-    }
-    return known->isValid() ? known.get() : nullptr;
+    auto& known = m_pictures[name];
+    if (!known) known = std::make_unique<DrawnPicture>(file_of(name));
+    return known->natural_size().isEmpty() ? nullptr : known.get();
 }
 
 QSize Pictures::natural_size(std::string const& name) {
-    auto* const svg = renderer(name);
-    return svg == nullptr ? QSize{} : svg->defaultSize();
+    auto const* const known = picture(name);
+    return known == nullptr ? QSize{} : known->natural_size();
 }
 
 void Pictures::draw(QPainter& painter, std::string const& name, QRectF const& place) {
     QSize const size = place.size().toSize();
-    if (size.isEmpty() || renderer(name) == nullptr) return;
+    if (size.isEmpty() || picture(name) == nullptr) return;
     double const ratio = painter.device()->devicePixelRatioF();
     painter.drawPixmap(place.topLeft(), pixmap(name, size, ratio));
 }
 
 void Pictures::draw_vectors(QPainter& painter, std::string const& name, QRectF const& place) {
-    if (auto* const svg = renderer(name)) svg->render(&painter, place);
+    if (auto const* const known = picture(name)) known->draw(painter, place);
 }
 
 namespace {
@@ -120,7 +114,9 @@ QPixmap Pictures::pixmap(std::string const& name, QSize size, double device_pixe
         known = QPixmap{real};
         known.fill(Qt::transparent);
         QPainter painter{&known};
-        if (auto* const svg = renderer(name)) svg->render(&painter);
+        if (auto const* const meant = picture(name)) {
+            meant->draw(painter, QRectF{QPointF{}, QSizeF{real}});
+        }
     }
     known.setDevicePixelRatio(device_pixel_ratio);
     return known;

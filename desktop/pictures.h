@@ -7,12 +7,12 @@
 #include <QPixmap>
 #include <QRectF>
 #include <QSize>
-#include <QSvgRenderer>
 #include <deque>
 #include <map>
 #include <memory>
 #include <string>
 
+#include "desktop/drawn_picture.h"
 #include "shell/screen/control.h"
 
 namespace navarun::desktop {
@@ -35,9 +35,10 @@ class Pictures {
     QCursor hand_cursor(std::string const& name, double device_pixel_ratio);
 
   private:
-    QSvgRenderer* renderer(std::string const& name);
+    /// null where no picture has that name
+    DrawnPicture const* picture(std::string const& name);
 
-    std::map<std::string, std::unique_ptr<QSvgRenderer>> m_renderers;
+    std::map<std::string, std::unique_ptr<DrawnPicture>> m_pictures;
     std::map<std::string, QPixmap> m_pixmaps;  // by name and real size
     struct DecodedFile {
         std::string path;

@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/file_path.h"
 #include "desktop/form_window.h"
 #include "desktop/outside_programs.h"
 #include "desktop/to_qt.h"
@@ -28,7 +29,7 @@ namespace {
 // One for each application folder, as the lock of the instance is.
 QString private_folder(std::filesystem::path const& application_folder) {
     auto const hash = QCryptographicHash::hash(
-        QByteArray::fromStdString(application_folder.string()), QCryptographicHash::Sha1);
+        QByteArray::fromStdString(path_text(application_folder)), QCryptographicHash::Sha1);
     return QStandardPaths::writableLocation(QStandardPaths::CacheLocation) +
            QStringLiteral("/lectures-") + QString::fromLatin1(hash.toHex().left(12));
 }
@@ -173,7 +174,7 @@ void Session::open(std::string_view target) {
 }
 
 void Session::open_file(std::filesystem::path const& file, std::string_view) {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(file.string())));
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(path_text(file))));
 }
 
 bool Session::has_program(OutsideProgram wanted) { return command_line_of(wanted).has_value(); }
@@ -187,14 +188,14 @@ void Session::start_program(OutsideProgram wanted) {
 bool Session::has_text_viewer() { return TextViewer::is_installed(); }
 
 void Session::view_text(std::filesystem::path const& file, std::string const&) {
-    m_text_viewer.show(QString::fromStdString(file.string()));
+    m_text_viewer.show(QString::fromStdString(path_text(file)));
 }
 
 PictureSize Session::picture_size(std::filesystem::path const& file) {
-    QSize const size = Pictures::file_size(QString::fromStdString(file.string()));
+    QSize const size = Pictures::file_size(QString::fromStdString(path_text(file)));
     if (size.isEmpty()) {
         throw FatalError{
-            "L'image « " + file.filename().string() + " » n'a pas pu être affichée.",
+            "L'image « " + path_text(file.filename()) + " » n'a pas pu être affichée.",
             "Ce fichier n'est pas une image que le programme sait lire."};
     }
     return {size.width(), size.height()};

@@ -1,13 +1,12 @@
 // Opening copies of texts.
 #include "desktop/text_viewer.h"
 
-#include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QStandardPaths>
-#include <QUrl>
 #include <utility>
+
+#include "desktop/outside_programs.h"
 
 namespace navarun::desktop {
 
@@ -17,9 +16,7 @@ TextViewer::TextViewer(QString folder) : m_folder{std::move(folder)} {
 
 TextViewer::~TextViewer() { QDir{m_folder}.removeRecursively(); }
 
-bool TextViewer::is_installed() {
-    return !QStandardPaths::findExecutable(QStringLiteral("xdg-open")).isEmpty();
-}
+bool TextViewer::is_installed() { return has_text_opener(); }
 
 QString TextViewer::take_over(QString const& file) {
     // A folder for each, so that the viewer's title shows the name of the file.
@@ -34,7 +31,7 @@ QString TextViewer::take_over(QString const& file) {
 
 void TextViewer::show(QString const& file) {
     QString const copy = take_over(file);
-    if (!copy.isEmpty()) QDesktopServices::openUrl(QUrl::fromLocalFile(copy));
+    if (!copy.isEmpty()) open_text(copy);
 }
 
 }  // namespace navarun::desktop

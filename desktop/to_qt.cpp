@@ -48,7 +48,12 @@ namespace {
 // The font itself or, where it is not installed, its stand-in: under one name the fonts that
 // look the same are looked up and loaded once.
 QString installed_family(QString const& name) {
-    static QHash<QString, QString> known;
+    static QHash<QString, QString> known{
+#ifdef Q_OS_WIN
+        // Kept there in a few sizes of dots; its successor has the same widths in outlines.
+        {QStringLiteral("MS Sans Serif"), QStringLiteral("Microsoft Sans Serif")},
+#endif
+    };
     auto& family = known[name];
     if (!family.isEmpty()) return family;
     family = name;
@@ -61,8 +66,20 @@ QString installed_family(QString const& name) {
 
 }  // namespace
 
+QFont font_named(std::string_view name) {
+    QString const family = installed_family(to_qt(name));
+    QFont font{family};
+    // Not every Windows has the narrow one, nor a stand-in: the wide one is drawn narrow.
+    constexpr int narrow_to_wide = 82;  // percent
+    if (name == "Arial Narrow" && !QFontDatabase::hasFamily(family)) {
+        font.setFamily(installed_family(QStringLiteral("Arial")));
+        font.setStretch(narrow_to_wide);
+    }
+    return font;
+}
+
 QFont font_of(screen::TextControl const& control) {
-    QFont font{installed_family(to_qt(control.FontName.get()))};
+    QFont font = font_named(control.FontName.get());
     font.setPixelSize(qRound(control.FontSize.get() * 4 / 3));
     font.setBold(control.FontBold);
     font.setItalic(control.FontItalic);

@@ -30,6 +30,8 @@ QColor to_qt(screen::Colour colour);
 QColor deep_tone_on(QColor const& ground);
 
 /// In pixels (points times 4/3), so that texts and boxes scale together.
+/// The font of that name, or what the system has of the same metrics.
+QFont font_named(std::string_view name);
 QFont font_of(screen::TextControl const& control);
 
 /// A tool tip whose text is shown as it stands, never read as markup.

@@ -33,6 +33,9 @@ bench_packages=(
 windows_packages=(
     g++-mingw-w64-x86-64-posix wine64
 )
+windows_program_packages=(
+    dpkg-dev librsvg2-bin imagemagick
+)
 
 long_test_packages=(
     clang libclang-rt-14-dev

@@ -1,14 +1,15 @@
 // Looking programs up by the desktop's own defaults.
-#include "desktop/outside_programs.h"
 
-#include <QCoreApplication>
-#include <QDir>
+#include <QDesktopServices>
 #include <QFile>
-#include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTextStream>
+#include <QUrl>
 #include <array>
+
+#include "desktop/outside_programs.h"
+#include "desktop/started_program.h"
 
 namespace navarun::desktop {
 
@@ -71,11 +72,6 @@ std::optional<CommandLine> text_editor() {
     return first_installed(editors);
 }
 
-// Started by the same path, so that a link keeps its own folder.
-CommandLine own_command_line() {
-    return {QDir::current().absoluteFilePath(QCoreApplication::arguments().constFirst()), {}};
-}
-
 }  // namespace
 
 std::optional<CommandLine> command_line_of_entry(QString const& name) {
@@ -110,9 +106,15 @@ std::optional<CommandLine> command_line_of(OutsideProgram wanted) {
         case OutsideProgram::calculator:
             return first_installed(calculators);
         case OutsideProgram::navarun:
-            return own_command_line();
+            return CommandLine{started_program(), {}};
     }
     return {};
 }
+
+bool has_text_opener() {
+    return !QStandardPaths::findExecutable(QStringLiteral("xdg-open")).isEmpty();
+}
+
+void open_text(QString const& file) { QDesktopServices::openUrl(QUrl::fromLocalFile(file)); }
 
 }  // namespace navarun::desktop
