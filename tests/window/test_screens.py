@@ -22,6 +22,8 @@ SMALL_WINDOWS = {
     "Périodes": ("alt+a", "a"),
     "  PALAIS DU DESTIN": ("alt+a", "p"),
     "Flêche": ("alt+o", "d"),
+    "Option Impression": ("alt+i", "a"),
+    "À propos de N.A.V.A.R.U.N": ("alt+m", "p"),
 }
 
 

@@ -162,6 +162,16 @@ def main(program):
             if entry == "Calendrier" and window(name):
                 close(name)
             wait_for(lambda: window(name) is None, f"{name} gone")
+        entry = "Aperçu / impression / Option"
+        act(find(main_window, "(check )?menu item", re.escape(entry)) or fail(entry))
+        options = check("Option Impression")
+        period = find(options, "check box", "Période")
+        assert period.get_state_set().contains(Atspi.StateType.CHECKED), "the period list is on"
+        close("Option Impression")
+        act(find(main_window, "menu item", "À propos") or fail("À propos"))
+        about = check("À propos de N.A.V.A.R.U.N")
+        act(find(about, "push button", "OK"))
+        wait_for(lambda: window("À propos de N.A.V.A.R.U.N") is None, "the about box gone")
         act(find(main_window, "push button", "Seigneur du jour"))
         lords = check("Seigneur du Jour")
         act(find(lords, "push button", "Ferme la fenêtre"))
