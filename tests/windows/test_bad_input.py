@@ -4,7 +4,6 @@ import contextlib
 import errno
 import json
 import os
-import random
 import shutil
 import subprocess
 import tempfile
@@ -228,18 +227,17 @@ class FailingDisk(unittest.TestCase):
         self.assertIn(self.NOTE.encode(), self.record.read_bytes())
 
     def test_a_program_killed_while_it_saves_leaves_a_whole_record(self):
-        rng = random.Random(1)
         contents = set()
         for run in range(6):
             before = self.record.read_bytes()
             with Conversation(WINDOWS_PILOT, self.folder) as pilot:
                 for request in days.MORNING + self.SAVE_AGAIN[:-2]:
                     pilot.ask(request)
-                letter = "abcdefgh"[run]
+                letter = "QWXYZV"[run]
                 pilot.ask(days.set_to("Text_Note", letter * 600_000))
                 pilot.process.stdin.write(json.dumps(self.SAVE_AGAIN[-1]).encode() + b"\n")
                 pilot.process.stdin.flush()
-                time.sleep(rng.uniform(0, 0.05))
+                time.sleep(run * 0.008)  # from the first moment on
                 pilot.process.kill()
                 pilot.process.wait(pilots.PATIENCE)
             after = self.record.read_bytes()
