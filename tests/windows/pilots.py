@@ -12,6 +12,7 @@ from pathlib import Path
 HERE = Path(os.environ["PILOTE"])
 WINDOWS_PROGRAMS = Path(os.environ["WINDOWS_PROGRAMS"])
 WINE = "/usr/lib/wine/wine64"
+WINE_SERVER = "/usr/lib/wine/wineserver64"
 WINE_FOLDER = Path(os.environ["WINE_FOLDER"])
 PATIENCE = 240  # seconds, for a run that hangs
 
@@ -29,14 +30,16 @@ def make_windows_folder():
     WINE_FOLDER.parent.mkdir(parents=True, exist_ok=True)
     with open(str(WINE_FOLDER) + ".lock", "w", encoding="utf-8") as lock:
         fcntl.flock(lock, fcntl.LOCK_EX)
-        if (WINE_FOLDER / "system.reg").exists():
-            return
         # No output is kept: the server that stays behind would hold it open.
         quiet = {"stdin": subprocess.DEVNULL, "stdout": subprocess.DEVNULL,
                  "stderr": subprocess.DEVNULL, "env": environment(), "timeout": PATIENCE}
-        subprocess.run([WINE, "wineboot", "--init"], check=True, **quiet)
-        # The server writes the registry when it ends.
-        subprocess.run(["/usr/lib/wine/wineserver64", "-w"], check=True, **quiet)
+        if not (WINE_FOLDER / "system.reg").exists():
+            subprocess.run([WINE, "wineboot", "--init"], check=True, **quiet)
+            # The server writes the registry when it ends.
+            subprocess.run([WINE_SERVER, "-w"], check=True, **quiet)
+        # Between two programs the machine stays up; it does not start anew for each. One that
+        # is up already refuses, which is as well.
+        subprocess.run([WINE_SERVER, "-p30"], check=False, **quiet)
 
 
 def on_windows(path):

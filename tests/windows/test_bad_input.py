@@ -1,10 +1,13 @@
 """What a Windows machine puts in the way: each is told with its reason, and nothing is lost."""
 
 import contextlib
+import errno
+import json
 import os
 import shutil
 import subprocess
 import tempfile
+import time
 import unittest
 from pathlib import Path
 
@@ -169,30 +172,116 @@ class BadInput(unittest.TestCase):
             self.assertEqual(self.windows([])[-1], {"ok": True})
 
 
+class FailingDisk(unittest.TestCase):
+    """The disk fails below the program, where Wine hands a write on to this machine."""
+
+    NOTE = "n" * 200_000
+    SAVE_AGAIN = [*person("jean", "durand", "01011980", NOTE), click("Command_Disk_Vert")]
+
+    def setUp(self):
+        pilots.make_windows_folder()
+        folder = tempfile.TemporaryDirectory(prefix="navarun-essais-")
+        self.addCleanup(folder.cleanup)
+        self.folder = Path(folder.name) / "essai"
+        self.folder.mkdir()
+        WINDOWS_PILOT.run(self.folder, days.MORNING + saved("jean", "durand", "01011980"))
+        self.record = self.folder / RECORD
+        self.before = self.record.read_bytes()
+
+    def with_fault(self, **fault):
+        mark = self.folder.parent / "mark"
+        shim = {"LD_PRELOAD": os.environ["FAULT_SHIM"], "FAULT_MARK": str(mark),
+                "FAULT_FOLDER": str(self.folder / "RESSOURCES/DATA1")}
+        answers = WINDOWS_PILOT.answers(
+            self.folder, days.MORNING + self.SAVE_AGAIN,
+            env={**pilots.environment(), **shim,
+                 **{f"FAULT_{name}": str(value) for name, value in fault.items()}})
+        self.assertTrue(mark.exists(), "the fault has struck")
+        mark.unlink()
+        return answers[-1]
+
+    def test_a_full_or_broken_disk_leaves_the_old_record_and_tells_why(self):
+        told = {errno.ENOSPC: "Il n'y a plus de place sur le disque.", errno.EIO: ""}
+        for call in ("write", "fsync"):
+            for number, reason in told.items():
+                with self.subTest(call, error=errno.errorcode[number]):
+                    answer = self.with_fault(CALL=call, NUMBER=1, ERRNO=number)
+                    self.assertEqual(answer.get("error"), "fatal", answer)
+                    self.assertIn("L'écriture du fichier « Durand Jean.fcy » a échoué.", answer["text"])
+                    self.assertIn(reason, answer["text"])
+                    self.assertEqual(self.record.read_bytes(), self.before)
+                    self.assertEqual(list(self.folder.rglob("navarun.tmp")), [])
+                    rescued = self.record.with_name("SAUVETAGE.fcy")
+                    self.assertIn(self.NOTE.encode(), rescued.read_bytes())
+                    rescued.unlink()
+
+    def test_a_disk_without_room_for_the_rescue_either_says_so(self):
+        answer = self.with_fault(BUDGET=1000)
+        self.assertIn("Il n'y a plus de place sur le disque.", answer["text"])
+        self.assertIn("n'a pas pu être gardée", answer["effects"][-1]["text"])
+        self.assertEqual(self.record.read_bytes(), self.before)
+        self.assertEqual({path.name for path in self.record.parent.iterdir()}, {self.record.name})
+
+    def test_a_write_that_takes_half_is_gone_on_with(self):
+        self.assertEqual(self.with_fault(CALL="write", NUMBER=1, ERRNO=0), {"ok": True})
+        self.assertIn(self.NOTE.encode(), self.record.read_bytes())
+
+    def test_a_program_killed_while_it_saves_leaves_a_whole_record(self):
+        contents = set()
+        for run in range(6):
+            before = self.record.read_bytes()
+            with Conversation(WINDOWS_PILOT, self.folder) as pilot:
+                for request in days.MORNING + self.SAVE_AGAIN[:-2]:
+                    pilot.ask(request)
+                letter = "QWXYZV"[run]
+                pilot.ask(days.set_to("Text_Note", letter * 600_000))
+                pilot.process.stdin.write(json.dumps(self.SAVE_AGAIN[-1]).encode() + b"\n")
+                pilot.process.stdin.flush()
+                time.sleep(run * 0.008)  # from the first moment on
+                pilot.process.kill()
+                pilot.process.wait(pilots.PATIENCE)
+            after = self.record.read_bytes()
+            whole = after.count(letter.encode()) == 600_000 and after.endswith(b'"\r\n')
+            self.assertTrue(after == before or whole, run)
+            contents.add(after == before)
+        self.assertIn(True, contents, "killed early enough at least once")
+        # The next start removes what the last one left.
+        WINDOWS_PILOT.run(self.folder, days.MORNING)
+        self.assertEqual(list(self.folder.rglob("navarun.tmp")), [])
+
+
 class FolderWithoutRights(unittest.TestCase):
     """Who may write everywhere on this machine runs Wine without that right, with a server of its
     own: it is the server that opens the files."""
 
-    def setUp(self):
+    @classmethod
+    def setUpClass(cls):
         pilots.make_windows_folder()
         folder = tempfile.TemporaryDirectory(prefix="navarun-essais-", dir=pilots.WINE_FOLDER.parent)
+        cls.addClassCleanup(folder.cleanup)
+        wine_folder = Path(folder.name) / "wine"
+        # The same files under another name: it is the registry alone that is written.
+        shutil.copytree(pilots.WINE_FOLDER, wine_folder, symlinks=True, copy_function=os.link)
+        cls.environment = pilots.environment(wine_folder)
+        rights = "-dac_override,-dac_read_search,-fowner"
+        cls.bounded = ["setpriv", "--bounding-set", rights] if os.geteuid() == 0 else []
+        cls.server("-p")
+        cls.addClassCleanup(cls.server, "-k")
+
+    @classmethod
+    def server(cls, what):
+        subprocess.run([*cls.bounded, pilots.WINE_SERVER, what], env=cls.environment, check=True,
+                       timeout=pilots.PATIENCE, stdin=subprocess.DEVNULL,
+                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory(prefix="navarun-essais-")
         self.addCleanup(folder.cleanup)
         self.folder = Path(folder.name) / "essai"
         self.folder.mkdir()
-        self.wine_folder = Path(folder.name) / "wine"
-        shutil.copytree(pilots.WINE_FOLDER, self.wine_folder, symlinks=True, copy_function=os.link)
-        self.environment = pilots.environment(self.wine_folder)
-        self.addCleanup(self.end_server)
-
-    def end_server(self):
-        subprocess.run(["/usr/lib/wine/wineserver64", "-k"], env=self.environment, check=False,
-                       timeout=pilots.PATIENCE, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                       stderr=subprocess.DEVNULL)
 
     def answers(self, requests):
-        rights = "-dac_override,-dac_read_search,-fowner"
-        command = ["setpriv", "--bounding-set", rights] if os.geteuid() == 0 else []
-        pilot = pilots.Pilot("without rights", command + WINDOWS_PILOT.command, pilots.on_windows)
+        pilot = pilots.Pilot("without rights", self.bounded + WINDOWS_PILOT.command, pilots.on_windows)
         return pilot.answers(self.folder, days.MORNING + requests, env=self.environment)
 
     def closed(self, folder):
