@@ -2,8 +2,9 @@
 #include "desktop/to_qt.h"
 
 #include <QFontDatabase>
-#include <QHash>
 #include <QTextDocument>
+#include <functional>
+#include <map>
 
 namespace navarun::desktop {
 
@@ -45,36 +46,43 @@ QColor deep_tone_on(QColor const& ground) {
 
 namespace {
 
-// The font itself or, where it is not installed, its stand-in: under one name the fonts that
-// look the same are looked up and loaded once.
+// The family itself or, where it is not installed, its stand-in: under one name the fonts that
+// look the same are loaded once.
 QString installed_family(QString const& name) {
-    static QHash<QString, QString> known{
 #ifdef Q_OS_WIN
-        // Kept there in a few sizes of dots; its successor has the same widths in outlines.
-        {QStringLiteral("MS Sans Serif"), QStringLiteral("Microsoft Sans Serif")},
+    // Kept there in a few sizes of dots; its successor has the same widths in outlines.
+    if (name == QLatin1String("MS Sans Serif")) return QStringLiteral("Microsoft Sans Serif");
 #endif
-    };
-    auto& family = known[name];
-    if (!family.isEmpty()) return family;
-    family = name;
-    if (QFontDatabase::hasFamily(name)) return family;
+    if (QFontDatabase::hasFamily(name)) return name;
     for (auto const& stand_in : QFont::substitutes(name)) {
-        if (QFontDatabase::hasFamily(stand_in)) return family = stand_in;
+        if (QFontDatabase::hasFamily(stand_in)) return stand_in;
     }
-    return family;
+    return {};
+}
+
+struct Face {
+    QString family;
+    int stretch = QFont::AnyStretch;  // percent of its width
+};
+
+Face installed_face(std::string_view name) {
+    QString const family = installed_family(to_qt(name));
+    if (!family.isEmpty()) return {.family = family};
+    if (name != "Arial Narrow") return {.family = to_qt(name)};
+    // Not every Windows has the narrow one, nor a stand-in: the wide one is drawn narrow.
+    constexpr int narrow_to_wide = 82;
+    return {.family = installed_face("Arial").family, .stretch = narrow_to_wide};
 }
 
 }  // namespace
 
 QFont font_named(std::string_view name) {
-    QString const family = installed_family(to_qt(name));
-    QFont font{family};
-    // Not every Windows has the narrow one, nor a stand-in: the wide one is drawn narrow.
-    constexpr int narrow_to_wide = 82;  // percent
-    if (name == "Arial Narrow" && !QFontDatabase::hasFamily(family)) {
-        font.setFamily(installed_family(QStringLiteral("Arial")));
-        font.setStretch(narrow_to_wide);
-    }
+    // Asking the system for a family takes longer than drawing with it.
+    static std::map<std::string, Face, std::less<>> known;
+    auto face = known.find(name);
+    if (face == known.end()) face = known.emplace(name, installed_face(name)).first;
+    QFont font{face->second.family};
+    font.setStretch(face->second.stretch);
     return font;
 }
 
