@@ -220,6 +220,7 @@ std::string read_file(std::filesystem::path const& path, std::string const& show
     }
 }
 
+// Who may read the file is told by its folder, as everywhere on Windows.
 void write_file(std::filesystem::path const& path, std::string_view bytes,
                 std::string const& shown_as) {
     auto const unfinished_path = path.parent_path() / unfinished_file;
