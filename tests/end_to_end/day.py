@@ -17,7 +17,7 @@ from eye import Eye
 DATE, TIME = ("21/11/2026", "2026-11-21"), "10:15:00"
 # Where Debian keeps the library that tells a program what time it is.
 FAKETIME = f"/usr/lib/{os.uname().machine}-linux-gnu/faketime/libfaketime.so.1"
-SETTLED = 20  # seconds until what differs counts as a difference
+SETTLED = float(os.environ.get("SETTLED", 20))  # seconds until what differs counts as a difference
 
 
 @dataclasses.dataclass
@@ -66,10 +66,17 @@ class Day:
         os.makedirs(os.path.dirname(opener))
         with open(opener, "w", encoding="utf-8") as script:
             script.write(
-                "#!/bin/sh\n"
-                f'cd "{self.opened}"\n'
-                'case "$1" in file://*|/*) f="${1#file://}"; cp -- "$f" "$(basename "$f")";;\n'
-                '*) printf "%s" "$1" > address;; esac\n'
+                "#!/usr/bin/python3 -I\n"
+                "import os, shutil, sys\n"
+                "from urllib.parse import unquote, urlparse\n"
+                "url = urlparse(sys.argv[1])\n"
+                f"place = {self.opened!r}\n"
+                'file = unquote(url.path) if url.scheme in ("", "file") else ""\n'
+                "if os.path.exists(file):\n"
+                "    shutil.copy(file, place)\n"
+                "else:\n"
+                '    with open(place + "/address", "w") as note:\n'
+                "        note.write(sys.argv[1])\n"
             )
         os.chmod(opener, 0o755)
         self.folders = [os.path.join(self.desk.folder, place) for place in ("window", "pilot")]

@@ -17,6 +17,7 @@ class Hand:
 
     def __init__(self, desk, windows):
         self._desk, self._windows = desk, windows
+        self.walked = []  # where the keyboard came by
         self.forms = {}
 
     def do(self, act):
@@ -67,6 +68,9 @@ class Hand:
         left, top, width, height = self.rectangle(name)
         self._xdo("mousemove", left + x % width, top + y % height, "click", 1)
 
+    def _click_on_screen(self, x, y):
+        self._xdo("mousemove", x, y, "click", 1)
+
     def _drag(self, name, x1, y1, x2, y2):
         left, top, _, _ = self.rectangle(name)
         self._xdo("mousemove", left + x1, top + y1, "mousedown", 1)
@@ -76,7 +80,17 @@ class Hand:
             self._xdo("mousemove", x, y)
         self._xdo("mouseup", 1)
 
-    def _thumb(self, name, start, end):
+    def drag_across(self, start, end):
+        """From one place of the screen to another, across windows."""
+        self._xdo("mousemove", *start, "mousedown", 1)
+        for step in range(1, STEPS + 1):
+            self._xdo("mousemove", *(a + (b - a) * step // STEPS for a, b in zip(start, end)))
+            time.sleep(0.02)  # the programs talk to each other about what is dragged
+        # Let go only where the drop is taken: the other program has to answer first.
+        time.sleep(0.3)
+        self._xdo("mouseup", 1)
+
+    def _thumb(self, name, start, end, steps=STEPS):
         """The thumb of a scroll bar from one part of its way to another, 0 to 1."""
         left, top, width, height = self.rectangle(name)
         y = top + height // 2
@@ -84,8 +98,8 @@ class Hand:
         arrow = 24
         way = width - 2 * arrow
         places = [
-            left + arrow + round(way * (start + (end - start) * step / STEPS))
-            for step in range(STEPS + 1)
+            left + arrow + round(way * (start + (end - start) * step / steps))
+            for step in range(steps + 1)
         ]
         self._xdo("mousemove", places[0], y, "mousedown", 1)
         for x in places[1:]:
@@ -176,6 +190,42 @@ class Hand:
 
     def _type(self, text):
         self._xdo("type", "--delay", 30, text)
+
+    def _tab_to(self, base, back=False):
+        """Walks by Tab until the keyboard stands on a control of that name or array; the way is
+        kept in `walked`."""
+        self.walked = []
+        for _ in range(70):
+            self._xdo("key", "shift+Tab" if back else "Tab")
+            before = self.walked[-1:]
+            try:
+                here = wait_for(
+                    lambda: next((n for n in [self.focused()] if n and [n] != before), None),
+                    "the keyboard somewhere", 5,
+                )
+            except AssertionError as gone:
+                raise AssertionError(f"{gone}; walked {self.walked}") from None
+            self.walked.append(here)
+            if here == base or here.split("(")[0] == base:
+                return
+        raise AssertionError(f"Tab does not lead to {base}: {self.walked}")
+
+    def _press_and_stay(self, *keys):
+        """Keys that move the keyboard's place within an array; where it is then is in `walked`."""
+        self._keys(*keys)
+        self.walked = [wait_for(self.focused, "the keyboard somewhere")]
+
+    def focused(self):
+        """The control of the main window on which the keyboard stands."""
+        form = self.forms["Form1"]
+        nodes = self._windows.nodes_of(form)
+        for control in form.placed:
+            node = nodes[control.name]
+            if control.kind == "combo":
+                node = node.get_child_at_index(1)
+            if has(node, STATE.FOCUSED):
+                return control.name
+        return None
 
     # What waits for something.
 

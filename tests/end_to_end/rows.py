@@ -81,6 +81,26 @@ def choose(name, item):
     return Row(f"chooses {item} in {name}", [("choose", name, item)], [ask("choose", name, item=item)])
 
 
+# What the focus of the model comes to on the way of Tab; all else keeps it where it was.
+_TAKE_FOCUS = {"text", "combo", "list", "button", "switch", "scroll bar", "drop-down"}
+
+
+def tab_to(base, *hand, then=lambda name: [], back=False, told=None):
+    """Walks by Tab to a control or into an array, then does more with the hands; `then` says of
+    the control on which the keyboard stands at the end what that is for the pilot."""
+
+    def requests(day):
+        form = day.forms["Form1"]
+        walked = [name for name in day.hand.walked if form.controls[name].kind in _TAKE_FOCUS]
+        passed = [ask("focus", name) for name in walked]
+        hovered = [
+            ask("hover", name) for name in day.hand.walked if form.controls[name].name == "Picture_PHOTO"
+        ]
+        return passed + hovered + then(day.hand.walked[-1])
+
+    return Row(told or f"walks by Tab to {base}", [("tab to", base, back), *hand], requests)
+
+
 def close(form):
     return Row(f"closes {form} by its frame", [("close", form)], [{"op": "close", "form": form}])
 

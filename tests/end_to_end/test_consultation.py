@@ -14,6 +14,26 @@ from rows import *
 
 BAR = "HScroll_age"
 
+# A window that opens leaves the field in which one writes unfinished; what is done in it does not.
+A_WINDOW_IN_BETWEEN = [
+    write("Text_prenom", "anne-lise", "types a first name in small letters"),
+    menu("Mnuperiode", "opens the list of periods: the name stays as it is"),
+    close("Affiche_cycle"),
+    Row("writes on without a click", [("type", " rose")], [ask("type", "Text_prenom", text="anne-lise rose")]),
+    menu("Mnuperiode", "opens the list again"),
+    entry("Affiche_cycle.List_periode", 4, "picks a line: the name is finished"),
+    write("Text_nom", "x", "comes back"),
+    menu("Mnuperiode", "closes the list"),
+    Row("types half a day of birth", [("click", "Combo_jourNaiss"), ("type", "1")],
+        [ask("click", "Combo_jourNaiss"), ask("type", "Combo_jourNaiss", text="1")]),
+    menu("Mnu_palaisdestin", "opens the palace of destiny: the date stays as it is"),
+    close("Palais_du_destin"),
+    click("Label_age", "opens the choice of an age"),
+    Row("leaves it by Escape", [("keys", "Escape")], [{"op": "close", "form": "choix_age"}]),
+    click("Bouton_Image", "opens the images: the date is repaired"),
+    click("Bouton_Image", "closes them"),
+    click("Command_reset", "begins anew"),
+]
 THE_PERSON = [
     write("Text_prenom", "marie-claire", "types the first name in small letters"),
     write("Text_nom", "modèle"),
@@ -116,4 +136,4 @@ THE_END = [
 ]
 
 play_day("consultation",
-         [*THE_PERSON, *THE_AGES, *THE_CELLS, *THE_CHOOSER, *THE_WINDOWS, *THE_ARROWS, *THE_LOOKS, *THE_END])
+         [*A_WINDOW_IN_BETWEEN, *THE_PERSON, *THE_AGES, *THE_CELLS, *THE_CHOOSER, *THE_WINDOWS, *THE_ARROWS, *THE_LOOKS, *THE_END])

@@ -12,6 +12,7 @@ sys.path[:0] = [HERE, os.path.join(HERE, "../support")]
 from PIL import Image
 
 from day import Row, play_day
+from desk import wait_for
 from rows import *
 
 LIST, SEARCH, CONTROL, ERASE, ENTER = "File_Fichier", "Text_Cherche", 17, 46, 13
@@ -31,10 +32,23 @@ def fill(folder):
     Image.new("RGB", (400, 200), (40, 90, 200)).save(os.path.join(images, "bleu.bmp"))
 
 
-def dropped(folder):
-    file = os.path.join(folder, "vert.bmp")
+def drop_from_outside(day):
+    """A picture dragged from another program's window onto the portrait."""
+    file = os.path.join(day.desk.folder, "vert.bmp")
     Image.new("RGB", (130, 180), (40, 160, 60)).save(file)
-    return file
+    source = day.desk.start_other([sys.argv[4], file])
+    number = wait_for(lambda: day.desk.windows("Fichiers"), "the window of the files")[0]
+    day.desk.run(["xdotool", "windowmove", "--sync", number, "40", "700"])
+    day.beside.append((0, 650, 260, 200))
+
+    def drag():
+        day.hand.drag_across((80, 730), day.hand.centre("Picture_PHOTO"))
+        return True
+
+    yield Row("drops a picture from another window", [("wait", drag, "the drag")],
+              [ask("drop", "Picture_PHOTO", file=file)])
+    day.desk.end(source)
+    day.beside.clear()
 
 
 def key(name, told, code, *keys):
@@ -89,7 +103,8 @@ DELETE = [
     click("Charge(1)", "closes the folder"),
 ]
 PORTRAIT = [
-    write("Text_prenom", "x"),
+    Row("corrects the first name", [("click", "Text_prenom"), ("keys", "ctrl+a"), ("type", "zoé")],
+        [ask("type", "Text_prenom", text="zoé")]),
     click("Bouton_Image", "opens the images"),
     entry(LIST, 0, "selects one"),
     double_click_entry(LIST, 0, "takes it"),
@@ -111,6 +126,7 @@ LEAVE = [answered(menu("MnuQuitter", "leaves"), 1)]
 
 def rows(day):
     yield from KEEP_ONE + FIND + MOVE + DELETE + PORTRAIT
+    yield from drop_from_outside(day)
     yield from ADDRESSES + LEAVE
 
 

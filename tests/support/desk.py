@@ -24,9 +24,9 @@ def end_with_parent():
     _prctl(_PR_SET_PDEATHSIG, signal.SIGTERM, 0, 0, 0)
 
 
-def wait_for(what, told):
+def wait_for(what, told, patience=PATIENCE):
     """Calls `what` until it answers something, and returns that. Fails telling `told`."""
-    end = time.monotonic() + PATIENCE
+    end = time.monotonic() + patience
     while time.monotonic() < end:
         found = what()
         if found:
@@ -119,6 +119,10 @@ class Desk:
         place = place or tempfile.mkdtemp(dir=self.folder)
         copy = shutil.copy(program, os.path.join(place, "navarun"))
         return self._start([copy], dict(self.environment, **environment))
+
+    def start_other(self, command):
+        """Starts another program on this screen; the process."""
+        return self._start(command, self.environment)
 
     def end(self, process):
         _end(process)
