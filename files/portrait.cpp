@@ -39,7 +39,7 @@ std::string free_portrait_name(Program& program, std::filesystem::path const& dr
     std::string name = fitted_to_code_page(dropped.filename().string());
     std::ranges::replace_if(name, is_refused_in_file_names, '_');
     std::filesystem::path const named{name};
-    for (int number = 2; FileExists(program.path_of(program.folders.dossier_image + name));
+    for (int number = 2; !is_free(program.path_of(program.folders.dossier_image + name), name);
          ++number) {
         name = named.stem().string() + " (" + std::to_string(number) + ")" +
                named.extension().string();
