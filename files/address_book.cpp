@@ -49,7 +49,8 @@ void Bouton_Internet_click(Program& program) {
 }  // namespace
 
 void create_address_book(Program& program) {
-    if (FileExists(program.path_of(program.folders.chemin_internet))) return;
+    auto const& shown_as = program.folders.chemin_internet;
+    if (!is_free(program.path_of(shown_as), shown_as)) return;
     program.record_values.chemin_fichier = program.folders.chemin_internet;
     write_addresses(program, program.url_defaut);
 }

@@ -60,8 +60,8 @@ class Descriptor {
 
     int number() const { return m_number; }
     bool is_open() const { return m_number >= 0; }
-    /// Closes it and tells whether that failed.
-    bool close_fails() { return ::close(std::exchange(m_number, -1)) != 0; }
+    /// Closes it and tells whether that failed. Interrupted, it is closed all the same.
+    bool close_fails() { return ::close(std::exchange(m_number, -1)) != 0 && errno != EINTR; }
 
   private:
     int m_number;
@@ -86,6 +86,14 @@ bool write_all(int descriptor, std::string_view bytes) {
     return true;
 }
 
+bool flush(int descriptor) {
+    int failed = 0;
+    do {
+        failed = ::fsync(descriptor);
+    } while (failed != 0 && errno == EINTR);
+    return failed == 0;
+}
+
 // Removes the unfinished file again when the write fails.
 class Unfinished {
   public:
@@ -105,7 +113,7 @@ class Unfinished {
 void flush_folder(std::filesystem::path const& folder, char const* attempted,
                   std::string const& shown_as) {
     Descriptor const directory{open_file(folder, O_RDONLY | O_DIRECTORY)};
-    if (!directory.is_open() || ::fsync(directory.number()) != 0) {
+    if (!directory.is_open() || !flush(directory.number())) {
         fail(attempted, shown_as, errno);
     }
 }
@@ -144,7 +152,7 @@ void write_file(std::filesystem::path const& path, std::string_view bytes,
         fail(attempt::writing, shown_as, errno);
     }
     if (!write_all(file.number(), bytes)) fail(attempt::writing, shown_as, errno);
-    if (::fsync(file.number()) != 0) fail(attempt::writing, shown_as, errno);
+    if (!flush(file.number())) fail(attempt::writing, shown_as, errno);
     if (file.close_fails()) fail(attempt::writing, shown_as, errno);
     if (::rename(unfinished_path.c_str(), path.c_str()) != 0)
         fail(attempt::writing, shown_as, errno);
@@ -168,6 +176,13 @@ void move_file(std::filesystem::path const& source, std::filesystem::path const&
 void delete_file(std::filesystem::path const& path, std::string const& shown_as) {
     if (::unlink(path.c_str()) != 0) fail(attempt::deleting, shown_as, errno);
     flush_folder(path.parent_path(), attempt::deleting, shown_as);
+}
+
+bool is_free(std::filesystem::path const& path, std::string const& shown_as) {
+    struct stat found {};
+    if (::stat(path.c_str(), &found) == 0) return false;
+    if (errno != ENOENT && errno != ENOTDIR) fail(attempt::writing, shown_as, errno);
+    return true;
 }
 
 void remove_unfinished_file(std::filesystem::path const& folder) {

@@ -41,7 +41,7 @@ std::string free_portrait_name(Program& program, std::filesystem::path const& dr
     std::string name = fitted_to_code_page(path_text(dropped.filename()));
     std::ranges::replace_if(name, is_refused_in_file_names, '_');
     auto const named = file_path(name);
-    for (int number = 2; FileExists(program.path_of(program.folders.dossier_image + name));
+    for (int number = 2; !is_free(program.path_of(program.folders.dossier_image + name), name);
          ++number) {
         name = path_text(named.stem()) + " (" + std::to_string(number) + ")" +
                path_text(named.extension());

@@ -10,7 +10,7 @@ namespace {
 
 std::string free_name(Program& program) {
     std::string name = "SAUVETAGE.fcy";
-    for (int number = 2; FileExists(program.path_of(program.folders.dossier_actif + name));
+    for (int number = 2; !is_free(program.path_of(program.folders.dossier_actif + name), name);
          ++number) {
         name = "SAUVETAGE (" + std::to_string(number) + ").fcy";
     }
@@ -20,8 +20,9 @@ std::string free_name(Program& program) {
 }  // namespace
 
 std::string rescue_consultation(Program& program) {
-    std::string const name = free_name(program);
+    std::string name;
     try {
+        name = free_name(program);
         write_file(program.path_of(program.folders.dossier_actif + name),
                    record_bytes(record_on_screen(program)), name);
     } catch (FatalError const& error) {

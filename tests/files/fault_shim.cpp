@@ -1,8 +1,10 @@
 // Preloaded over the C library: makes one file operation of a run fail, or the disk run full,
 // below one folder. What to do stands in the environment:
 //   FAULT_FOLDER  only paths that begin with this text
-//   FAULT_CALL    open, write, fsync, close, rename, unlink or read
+//   FAULT_CALL    open, write, fsync, close, rename, unlink, read, stat, chmod, mkdir, opendir;
+//                 any for whichever of them
 //   FAULT_NUMBER  which such call, from 1
+//   FAULT_ARMED   only while this file stands are calls counted; none for always
 //   FAULT_ERRNO   what it fails with; 0 for a short write
 //   FAULT_BUDGET  in place of the three above: bytes that the disk takes, in all
 //   FAULT_MARK    a file made when the fault has struck
@@ -12,9 +14,12 @@
 #include <cstdlib>
 #include <cstring>
 #include <string>
+#include <string_view>
 
+#include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -46,6 +51,11 @@ bool below_the_folder(int descriptor) {
     return below_the_folder(path);
 }
 
+bool is_armed() {
+    char const* const armed = std::getenv("FAULT_ARMED");
+    return armed == nullptr || ::syscall(SYS_faccessat, AT_FDCWD, armed, F_OK) == 0;
+}
+
 void leave_mark() {
     char const* const mark = std::getenv("FAULT_MARK");
     if (mark == nullptr) return;
@@ -54,19 +64,34 @@ void leave_mark() {
     if (descriptor >= 0) ::syscall(SYS_close, descriptor);
 }
 
+bool can_be_interrupted(std::string_view call) {
+    return call == "open" || call == "read" || call == "write" || call == "fsync" ||
+           call == "close";
+}
+
+long& calls() {
+    static long counted = 0;
+    return counted;
+}
+
 // Whether this is the call that fails; then errno is set.
 template <typename Where>
 bool strikes(char const* call, Where where) {
-    static long counted = 0;
     char const* const wanted = std::getenv("FAULT_CALL");
-    if (wanted == nullptr || std::strcmp(wanted, call) != 0) return false;
+    if (wanted == nullptr) return false;
+    if (std::strcmp(wanted, call) != 0 && std::strcmp(wanted, "any") != 0) return false;
     int const kept = errno;
-    if (!below_the_folder(where) || ++counted != number_in("FAULT_NUMBER")) {
+    if (!is_armed() || !below_the_folder(where) || ++calls() != number_in("FAULT_NUMBER")) {
+        errno = kept;
+        return false;
+    }
+    int const failure = static_cast<int>(number_in("FAULT_ERRNO"));
+    if (failure == EINTR && !can_be_interrupted(call)) {
         errno = kept;
         return false;
     }
     leave_mark();
-    errno = static_cast<int>(number_in("FAULT_ERRNO"));
+    errno = failure;
     return true;
 }
 
@@ -153,6 +178,26 @@ ssize_t read(int descriptor, void* bytes, size_t count) {
     static auto const real = next<ssize_t (*)(int, void*, size_t)>("read");
     if (strikes("read", descriptor)) return -1;
     return real(descriptor, bytes, count);
+}
+
+int stat(char const* path, struct stat* found) noexcept {
+    if (strikes("stat", path)) return -1;
+    return next<int (*)(char const*, struct stat*)>("stat")(path, found);
+}
+
+int fchmod(int descriptor, mode_t mode) noexcept {
+    if (strikes("chmod", descriptor)) return -1;
+    return next<int (*)(int, mode_t)>("fchmod")(descriptor, mode);
+}
+
+int mkdir(char const* path, mode_t mode) noexcept {
+    if (strikes("mkdir", path)) return -1;
+    return next<int (*)(char const*, mode_t)>("mkdir")(path, mode);
+}
+
+DIR* opendir(char const* path) {
+    if (strikes("opendir", path)) return nullptr;
+    return next<DIR* (*)(char const*)>("opendir")(path);
 }
 
 }  // extern "C"

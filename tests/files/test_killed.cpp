@@ -1,8 +1,12 @@
 // A run that is killed in the middle of a save: the record is the old one or the new one.
+#include <algorithm>
+#include <array>
 #include <chrono>
+#include <cstdint>
 #include <cstdlib>
 #include <random>
 #include <thread>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -76,6 +80,126 @@ TEST(Killed, AtAnyMomentOfASaveTheRecordIsWhole) {
     last.ask(set_clock);
     ASSERT_TRUE(last.ask(load).contains("ok"));
     EXPECT_EQ(names_in(data), std::vector<std::string>{"Dupont Zoe.fcy"});
+}
+
+// A day's work in an order that chance sets: saving, loading, moving, deleting, addresses,
+// settings, portraits, reports.
+class Work {
+  public:
+    explicit Work(std::uint32_t seed) : m_random{seed} {}
+
+    std::vector<Json> next() {
+        static constexpr std::array names{"Zoe", "Luc", "Anne", "Jean"};
+        std::string const name = names[below(names.size())];
+        auto const click = [](char const* control) -> Json {
+            return {{"op", "click"}, {"control", control}};
+        };
+        auto const choose = [](char const* control, std::size_t place) -> Json {
+            return {{"op", "choose"}, {"control", control}, {"index", place}};
+        };
+        auto const key = [](int code) -> Json {
+            return {{"op", "key"}, {"control", "File_Fichier"}, {"code", code}};
+        };
+        switch (below(9)) {
+            case 0:
+            case 1:
+            case 2:
+                return {set("Text_prenom", name), set("Text_nom", "Dupont"),
+                        set("Text_Note", std::string(below(60'000), 'a')), save};
+            case 3:
+                return {click("Charge(1)"), choose("File_Fichier", below(4)), key(13)};
+            case 4:
+                return {click("Charge(1)"),
+                        choose("File_Fichier", below(4)),
+                        key(17),
+                        {{"op", "drop"}, {"control", "Charge(2)"}}};
+            case 5:
+                return {click("Charge(2)"),
+                        choose("File_Fichier", below(4)),
+                        key(17),
+                        {{"op", "drop"}, {"control", "Charge(1)"}}};
+            case 6:
+                return {click("Bouton_Internet"),
+                        set("Text_New_URL", "www.neuve.example"),
+                        save,
+                        choose("List_Internet", 10),
+                        click("Command_reset"),
+                        click("Bouton_Internet")};
+            case 7:
+                return {click("MnuMauve_cycle"), click("MnuAzur_Aum")};
+            default:
+                return {click("MnuPersonalite"), click("Command2")};
+        }
+    }
+
+    std::size_t below(std::size_t bound) { return m_random() % bound; }
+
+  private:
+    std::mt19937 m_random;
+};
+
+// What a save of that work writes: a name, the date of the start, a note of one letter.
+bool is_whole(std::string const& file, std::string const& bytes) {
+    std::string const first_name = file.substr(7, file.size() - 11);
+    std::string const head =
+        "\"" + first_name + "\",\"Dupont\",\"01\",\"01\",\"19\",\"00\",0,\"\",\"";
+    if (!bytes.starts_with(head) || !bytes.ends_with("\"\r\n")) return false;
+    auto const note = bytes.substr(head.size(), bytes.size() - head.size() - 3);
+    return note.find_first_not_of('a') == std::string::npos;
+}
+
+TEST(Killed, AtAnyMomentOfAWorkingDayTheNextStartComesUpAndEveryRecordIsWhole) {
+    int const kills = std::getenv("NAVARUN_LONG_TESTS") != nullptr ? 500 : 60;
+    TemporaryFolder folder;
+    auto const resources = folder.path() / "RESSOURCES";
+    Work work{500};
+    // Two that no work touches.
+    std::string const kept = record_of("Paul", "Adam", "", "d'avant");
+    put_file(resources / "DATA1/Zz Adam Paul.fcy", kept);
+    put_file(resources / "DATA2/Zz Adam Paul.fcy", kept);
+    long records = 0;
+    long leftovers = 0;
+    for (int round = 0; round < kills; ++round) {
+        SCOPED_TRACE("kill " + std::to_string(round));
+        PiloteProcess pilote{folder.path()};
+        ASSERT_TRUE(pilote.ask(set_clock).contains("ok"));
+        Json const up = pilote.ask(load);
+        ASSERT_TRUE(up.contains("ok")) << up;
+        auto const moment =
+            std::chrono::steady_clock::now() + std::chrono::microseconds{work.below(40'000)};
+        std::thread killer{[&] {
+            std::this_thread::sleep_until(moment);
+            pilote.kill();
+        }};
+        // The answers are short; the pipe holds those of a day.
+        bool listens = true;
+        for (int acts = 0; listens && acts < 400; ++acts) {
+            for (auto const& request : work.next()) {
+                listens = listens && pilote.send(request.dump());
+            }
+        }
+        killer.join();
+        for (char const* const data : {"DATA1", "DATA2"}) {
+            EXPECT_EQ(file_content(resources / data / "Zz Adam Paul.fcy"), kept);
+            for (auto const& name : names_in(resources / data)) {
+                if (name.starts_with("Zz ")) continue;
+                if (name == "navarun.tmp") {
+                    ++leftovers;
+                    continue;
+                }
+                ++records;
+                EXPECT_TRUE(name.starts_with("Dupont ") && name.ends_with(".fcy")) << name;
+                EXPECT_TRUE(is_whole(name, file_content(resources / data / name))) << name;
+            }
+        }
+        auto const book = file_content(resources / "INTERNET.DAT");
+        EXPECT_TRUE(book.empty() || book.ends_with("\"\r\n")) << book;
+        auto const lines = std::count(book.begin(), book.end(), '\n');
+        EXPECT_TRUE(lines == 10 || lines == 11) << book;
+    }
+    EXPECT_GT(records, kills / 2);
+    RecordProperty("records_looked_at", static_cast<int>(records));
+    RecordProperty("leftovers", static_cast<int>(leftovers));
 }
 
 TEST(Killed, LeftoversOfEveryFolderGoAtTheNextStart) {
