@@ -137,14 +137,18 @@ class Work {
     std::mt19937 m_random;
 };
 
-// What a save of that work writes: a name, the date of the start, a note of one letter.
+// What a save of that work writes: a name, the date of the start or of the record loaded last,
+// and a note of one letter.
 bool is_whole(std::string const& file, std::string const& bytes) {
-    std::string const first_name = file.substr(7, file.size() - 11);
-    std::string const head =
-        "\"" + first_name + "\",\"Dupont\",\"01\",\"01\",\"19\",\"00\",0,\"\",\"";
-    if (!bytes.starts_with(head) || !bytes.ends_with("\"\r\n")) return false;
-    auto const note = bytes.substr(head.size(), bytes.size() - head.size() - 3);
-    return note.find_first_not_of('a') == std::string::npos;
+    std::string const names = "\"" + file.substr(7, file.size() - 11) + "\",\"Dupont\",";
+    for (std::string const date :
+         {"\"01\",\"01\",\"19\",\"00\"", "\"17\",\"05\",\"19\",\"62\""}) {
+        std::string const head = names + date + ",0,\"\",\"";
+        if (!bytes.starts_with(head) || !bytes.ends_with("\"\r\n")) continue;
+        auto const note = bytes.substr(head.size(), bytes.size() - head.size() - 3);
+        return note.find_first_not_of('a') == std::string::npos;
+    }
+    return false;
 }
 
 TEST(Killed, AtAnyMomentOfAWorkingDayTheNextStartComesUpAndEveryRecordIsWhole) {
