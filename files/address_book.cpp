@@ -50,7 +50,9 @@ void Bouton_Internet_click(Program& program) {
 
 void create_address_book(Program& program) {
     auto const& shown_as = program.folders.chemin_internet;
-    if (!is_free(program.path_of(shown_as), shown_as)) return;
+    auto const book = program.path_of(shown_as);
+    // A folder of that name is no book: the writing tells it.
+    if (!is_free(book, shown_as) && FileExists(book)) return;
     program.record_values.chemin_fichier = program.folders.chemin_internet;
     write_addresses(program, program.url_defaut);
 }

@@ -32,10 +32,6 @@ void move_file(std::filesystem::path const& source, std::filesystem::path const&
 /// Throws FatalError where the file cannot be deleted.
 void delete_file(std::filesystem::path const& path, std::string const& shown_as);
 
-/// Whether nothing stands at `path`, so that nothing is lost by a file written there. Throws
-/// FatalError where the system cannot tell: what cannot be looked at is not free.
-bool is_free(std::filesystem::path const& path, std::string const& shown_as);
-
 /// Removes what a killed run left behind in `folder`. Nothing happens where there is nothing.
 void remove_unfinished_file(std::filesystem::path const& folder);
 

@@ -178,13 +178,6 @@ void delete_file(std::filesystem::path const& path, std::string const& shown_as)
     flush_folder(path.parent_path(), attempt::deleting, shown_as);
 }
 
-bool is_free(std::filesystem::path const& path, std::string const& shown_as) {
-    struct stat found {};
-    if (::stat(path.c_str(), &found) == 0) return false;
-    if (errno != ENOENT && errno != ENOTDIR) fail(attempt::writing, shown_as, errno);
-    return true;
-}
-
 void remove_unfinished_file(std::filesystem::path const& folder) {
     std::error_code ignored;
     std::filesystem::remove(folder / unfinished_file, ignored);

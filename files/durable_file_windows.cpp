@@ -257,15 +257,6 @@ void delete_file(std::filesystem::path const& path, std::string const& shown_as)
     if (number != ERROR_SUCCESS) fail_at(attempt::deleting, shown_as, path, number);
 }
 
-bool is_free(std::filesystem::path const& path, std::string const& shown_as) {
-    if (::GetFileAttributesW(system_path(path).c_str()) != INVALID_FILE_ATTRIBUTES)
-        return false;
-    DWORD const number = ::GetLastError();
-    bool const nothing_there = number == ERROR_FILE_NOT_FOUND || number == ERROR_PATH_NOT_FOUND;
-    if (!nothing_there) fail_at(attempt::writing, shown_as, path, number);
-    return true;
-}
-
 void remove_unfinished_file(std::filesystem::path const& folder) {
     ::DeleteFileW(system_path(folder / unfinished_file).c_str());
 }

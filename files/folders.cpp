@@ -4,6 +4,7 @@
 #include <array>
 #include <string_view>
 
+#include "core/fatal_error.h"
 #include "files/durable_file.h"
 #include "files/folder_entries.h"
 #include "shell/program.h"
@@ -29,6 +30,17 @@ bool FileExists(std::filesystem::path const& path) {
     // The system would end the name at a zero byte, and find another file.
     if (path.native().find('\0') != path.native().npos) return false;
     return kind_of(path) == EntryKind::file;
+}
+
+bool is_free(std::filesystem::path const& path, std::string const& shown_as) {
+    std::error_code unreadable;
+    auto const kind = std::filesystem::status(path, unreadable).type();
+    if (kind == std::filesystem::file_type::not_found) return true;
+    if (kind == std::filesystem::file_type::none) {
+        throw FatalError{"L'écriture du fichier « " + shown_as + " » a échoué.",
+                         "Ce qui porte peut-être déjà ce nom n'a pas pu être regardé."};
+    }
+    return false;
 }
 
 void cree_repertoire(Program& program) {

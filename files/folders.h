@@ -25,6 +25,10 @@ bool FichDoss_existe(std::filesystem::path const& path);
 /// Whether a file, not a folder, stands at `path`. An unreadable or missing path gives false.
 bool FileExists(std::filesystem::path const& path);
 
+/// Whether nothing stands at `path`, so that nothing is lost by a file written there. Throws
+/// FatalError where the system cannot tell: what cannot be looked at is not free.
+bool is_free(std::filesystem::path const& path, std::string const& shown_as);
+
 /// Makes the missing folders and removes what a killed run left in them. A folder that cannot
 /// be made is not told: the first file in it will be.
 void cree_repertoire(Program& program);
