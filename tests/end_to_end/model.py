@@ -137,11 +137,13 @@ class Form:
         for other in after:
             if not other.shown:
                 continue
-            if other.kind == "label" and not other["Opaque"] and not other["Caption"]:
-                continue
+            clear = other.kind == "label" and not other["Opaque"]
+            if clear and (control.kind == "label" or not other["Caption"]):
+                continue  # the one is seen through the other
             x, y, w, h = other.place
             # Labels that grow with their texts stand a little over their places.
-            air = 24 if other.kind == "label" and not other["Opaque"] else 0
+            # Buttons side by side share the pixel of their edges.
+            air = 24 if clear else -2
             if x - air < left + width and left < x + w + air and y < top + height and top < y + h:
                 return True
         return False

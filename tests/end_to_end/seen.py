@@ -23,7 +23,7 @@ class Seen:
                 if not control.shown or not control["Enabled"]:
                     continue
                 left, top, width, height = control.place
-                if left + width > form.values["Width"] // TWIPS:
+                if control.kind == "button" and left + width > form.values["Width"] // TWIPS:
                     continue  # the ring of the keyboard lies on it instead of round it
                 place = (left + origin[0], top + origin[1], width, height)
                 if not self._is_inside(place, screen) or self._hidden(place, beside[name]):

@@ -286,6 +286,9 @@ class Windows:
             checked = has(node, STATE.CHECKED)
             if checked != entry["Checked"]:
                 yield f"{name}: checked {checked}, should be {entry['Checked']}"
+            enabled = has(node, STATE.ENABLED)
+            if enabled != entry["Enabled"]:
+                yield f"{name}: enabled {enabled}, should be {entry['Enabled']}"
             caption = entry["Caption"].replace("&", "")
             if node.get_name().replace("&", "") != caption:
                 yield f"{name}: is called {node.get_name()!r}, should be {caption!r}"
