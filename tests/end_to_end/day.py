@@ -56,6 +56,7 @@ class Day:
     def _set_up(self):
         os.makedirs(self._pictures, exist_ok=True)
         self.desk = self._open.enter_context(Desk("1600x1000"))
+        self.desk.start_bus()
         self.eye = Eye(self.desk.folder)
         # The keyboard of a French practitioner, which has the accented letters.
         self.desk.run(["setxkbmap", "fr"])

@@ -75,13 +75,12 @@ class Seen:
 
     def _compare_picture(self, form, control, place, screen, covered):
         if control.name == "Picture_KUNDALI":
-            # Only its border is free of everything.
-            left, top, width, height = place
-            if form.controls["Picture2"].shown:
+            # Only its centre is free of everything; labels stand a little into it.
+            over = ("Picture2", "Text_definition_palais", "frame_messageSauve")
+            if control["Drawing"] or any(form.controls[name].shown for name in over):
                 return
-            part = screen[top + 2 : top + 20, left + 8 : left + width - 8]
-            if control["Drawing"]:
-                return
+            left, top = place[:2]
+            part = screen[top + 160 : top + 330, left + 165 : left + 330]
         elif covered or control["Picture"].startswith("Image_nuage"):
             return
         else:

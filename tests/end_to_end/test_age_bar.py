@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """The age bar is dragged from 1 to 350 and back: at no moment is less than a whole window seen.
 
-usage: test_age_bar.py NAVARUN PILOTE PICTURES, inside a message bus of its own.
+usage: test_age_bar.py NAVARUN PILOTE PICTURES.
 """
 
 import os

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """A day with the mouse: a person comes, is typed in and looked at from all sides.
 
-usage: test_consultation.py NAVARUN PILOTE PICTURES, inside a message bus of its own.
+usage: test_consultation.py NAVARUN PILOTE PICTURES.
 """
 
 import os

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """A day with the keyboard alone: the pointer rests beside the window from morning to evening.
 
-usage: test_keyboard.py NAVARUN PILOTE PICTURES, inside a message bus of its own.
+usage: test_keyboard.py NAVARUN PILOTE PICTURES.
 """
 
 import os

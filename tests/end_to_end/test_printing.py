@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """A day of printing: the preview and its boxes, a page as a PDF, the description of a person.
 
-usage: test_printing.py NAVARUN PILOTE PICTURES, inside a message bus of its own.
+usage: test_printing.py NAVARUN PILOTE PICTURES.
 """
 
 import os

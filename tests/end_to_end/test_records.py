@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """A day with the records: kept, found, moved, deleted; portraits; the address book.
 
-usage: test_records.py NAVARUN PILOTE PICTURES DRAG_SOURCE, inside a message bus of its own.
+usage: test_records.py NAVARUN PILOTE PICTURES DRAG_SOURCE.
 """
 
 import os

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """What a screen reader finds in the windows of the running program.
 
-usage: test_spoken_tree.py NAVARUN, inside a message bus of its own (dbus-run-session).
+usage: test_spoken_tree.py NAVARUN
 
 Opens each window as a user would and walks what the desktop tells screen readers: every control
 has a name and a role that is told, the cells of the chart read as sentences, and the keyboard's
@@ -24,6 +24,7 @@ CELL = re.compile(
 
 def main(program):
     with Desk() as desk:
+        desk.start_bus()
         # The library reads the place of the bus and of the screen when it is loaded.
         os.environ.update(desk.environment)
         import gi
