@@ -192,7 +192,7 @@ void Session::view_text(std::filesystem::path const& file, std::string const&) {
 }
 
 PictureSize Session::picture_size(std::filesystem::path const& file) {
-    QSize const size = Pictures::file_size(QString::fromStdString(path_text(file)));
+    QSize const size = m_pictures.file_size(QString::fromStdString(path_text(file)));
     if (size.isEmpty()) {
         throw FatalError{
             "L'image « " + path_text(file.filename()) + " » n'a pas pu être affichée.",
