@@ -22,13 +22,18 @@ namespace navarun::desktop {
 
 namespace {
 
+Reaction reaction_of(screen::PlacedControl const& control) {
+    if (control.on_click) return Reaction::click;
+    return control.on_double_click ? Reaction::double_click : Reaction::none;
+}
+
 class LabelView : public PlacedView<screen::Label, LabelWidget> {
   public:
     LabelView(Session& session, screen::Label& label, QWidget& parent)
         : PlacedView{session, label, new LabelWidget{&parent}} {
         tell_mouse(session, label, shown());
         if (is_stop_of_the_desktop(label)) tell_keys(session, label, shown());
-        present(shown(), SpokenRole::text, label.on_click || label.on_double_click);
+        present(shown(), SpokenRole::text, reaction_of(label));
     }
 
   protected:
@@ -133,7 +138,7 @@ class SurfaceView : public PlacedView<C, SurfaceWidget> {
                                        new SurfaceWidget{session.pictures(), &parent}} {
         tell_mouse(session, control, this->shown());
         if (is_stop_of_the_desktop(control)) tell_keys(session, control, this->shown());
-        present(this->shown(), role_of(control), control.on_click || control.on_double_click);
+        present(this->shown(), role_of(control), reaction_of(control));
         if (control.on_file_drop) tell_file_drops(session, control, this->shown());
     }
 
@@ -148,7 +153,7 @@ class SurfaceView : public PlacedView<C, SurfaceWidget> {
     static SpokenRole role_of(screen::Image const& image) {
         bool const named =
             image.speak ? !image.speak().empty() : !image.SpokenName.get().empty();
-        return named ? SpokenRole::picture : SpokenRole::decoration;
+        return named ? SpokenRole::icon : SpokenRole::decoration;
     }
 
     static SurfaceWidget::Look look_of(screen::Image const& image) {
