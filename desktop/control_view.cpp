@@ -92,10 +92,7 @@ class SurfaceWidget : public QWidget {
                        PageDevice::screen);
         }
         draw_lines(painter);
-        if (m_look.border) {
-            painter.setPen(QColor{0x64, 0x64, 0x64});
-            painter.drawRect(rect().adjusted(0, 0, -1, -1));
-        }
+        if (m_look.border) draw_border(painter, rect());
         if (m_look.marks) {
             // Seen on every ground: dark outside, light inside.
             painter.setPen(QPen{Qt::black, 2});
@@ -221,11 +218,10 @@ class PictureButton : public QAbstractButton {
         QColor const ground = isDown()       ? m_ground.darker(112)
                               : underMouse() ? m_ground.darker(104)
                                              : m_ground;
-        painter.setPen(hasFocus() ? QPen{QColor{0x0B, 0x3A, 0x66}, 2}
-                                  : QPen{QColor{0x9F, 0xB3, 0xC4}, 1});
+        // Where the keyboard stands is told by the ring round it, as for all others.
+        painter.setPen(QPen{QColor{0x9F, 0xB3, 0xC4}, 1});
         painter.setBrush(isEnabled() ? ground : QColor{0xEE, 0xEE, 0xEE});
-        double const inset = hasFocus() ? 1.5 : 0.5;
-        painter.drawRoundedRect(QRectF{rect()}.adjusted(inset, inset, -inset, -inset), 3, 3);
+        painter.drawRoundedRect(QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
         QSize const natural = m_pictures.natural_size(m_picture);
         QSize const room = size() - QSize{2, 2};
         QSize const drawn = natural.width() > room.width() || natural.height() > room.height()

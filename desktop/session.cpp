@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QProcess>
+#include <QPushButton>
 #include <QStandardPaths>
 #include <QTimer>
 #include <QUrl>
@@ -164,6 +165,10 @@ Answer Session::box(std::string_view title, std::string_view text, BoxButtons bu
     box.setIcon(question ? QMessageBox::Question : QMessageBox::Warning);
     box.setStandardButtons(question ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
     box.setDefaultButton(QMessageBox::Ok);
+    // What went wrong is sent on to who can help. The keyboard begins on the answer all the
+    // same.
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    box.button(QMessageBox::Ok)->setFocus();
     name_parts(box, question ? QStringLiteral("Question") : QStringLiteral("Avertissement"));
     bool const agreed = box.exec() == QMessageBox::Ok;
     return agreed || !question ? Answer::ok : Answer::cancel;
