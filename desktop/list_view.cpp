@@ -3,6 +3,7 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "desktop/copy_menu.h"
@@ -66,22 +67,31 @@ class ListKeys : public QObject {
     screen::List& m_list;
 };
 
-// The right button offers texts for copying and chooses nothing: a choice may load, move or
-// delete.
+// The right button offers texts for copying and does nothing else: a choice may load, move or
+// delete, and a field that loses the keyboard may be repaired.
 class ListMenu : public QObject {
   public:
     ListMenu(screen::List& list, QListView& view) : QObject{&view}, m_list{list}, m_view{view} {
+        // Else any button would bring the keyboard.
+        view.setFocusPolicy(Qt::TabFocus);
         view.installEventFilter(this);
         view.viewport()->installEventFilter(this);
+        view.verticalScrollBar()->installEventFilter(this);
     }
 
-    bool eventFilter(QObject*, QEvent* event) override {
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        bool const on_bar = watched == m_view.verticalScrollBar();
         switch (event->type()) {
             case QEvent::MouseButtonPress:
             case QEvent::MouseButtonRelease:
             case QEvent::MouseButtonDblClick:
-                return static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton;
+                if (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton)
+                    return !on_bar;
+                if (event->type() == QEvent::MouseButtonPress)
+                    m_view.setFocus(Qt::MouseFocusReason);
+                return false;
             case QEvent::ContextMenu:
+                if (on_bar) return false;
                 offer(*static_cast<QContextMenuEvent*>(event));
                 return true;
             default:

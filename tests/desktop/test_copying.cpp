@@ -79,6 +79,22 @@ TEST_F(Copying, TheKeyOfTheMenuOffersTheChosenLine) {
     EXPECT_EQ(clipboard(), periods().entries()[2]);
 }
 
+// A half typed day is completed when its field is left, and it has not been.
+TEST_F(Copying, TheKeyboardStaysWhereItWas) {
+    click(form().Bouton_Internet);
+    click(form().Combo_jourNaiss);
+    type("1");
+    auto& addresses = *dynamic_cast<QListView&>(widget(form().List_Internet)).viewport();
+    QTest::mouseClick(&addresses, Qt::RightButton, Qt::NoModifier, QPoint{9, 9});
+    EXPECT_EQ(session().program().screen.focus(), &form().Combo_jourNaiss);
+    EXPECT_EQ(form().Combo_jourNaiss.Text.get(), "1");
+    EXPECT_EQ(form().List_Internet.ListIndex, -1);
+    QTest::mouseClick(&addresses, Qt::LeftButton, Qt::NoModifier, QPoint{9, 9});
+    EXPECT_EQ(session().program().screen.focus(), &form().List_Internet);
+    EXPECT_EQ(QApplication::focusWidget(), &widget(form().List_Internet));
+    EXPECT_EQ(form().List_Internet.ListIndex, 0);
+}
+
 TEST_F(Copying, WhereNoLineIsNoneIsOffered) {
     click(form().Charge(1));
     auto& records = dynamic_cast<QListView&>(widget(form().File_Fichier));
