@@ -22,13 +22,18 @@ namespace navarun::desktop {
 
 namespace {
 
+Reaction reaction_of(screen::PlacedControl const& control) {
+    if (control.on_click) return Reaction::click;
+    return control.on_double_click ? Reaction::double_click : Reaction::none;
+}
+
 class LabelView : public PlacedView<screen::Label, LabelWidget> {
   public:
     LabelView(Session& session, screen::Label& label, QWidget& parent)
         : PlacedView{session, label, new LabelWidget{&parent}} {
         tell_mouse(session, label, shown());
         if (is_stop_of_the_desktop(label)) tell_keys(session, label, shown());
-        present(shown(), SpokenRole::text, label.on_click || label.on_double_click);
+        present(shown(), SpokenRole::text, reaction_of(label));
     }
 
   protected:
@@ -87,10 +92,7 @@ class SurfaceWidget : public QWidget {
                        PageDevice::screen);
         }
         draw_lines(painter);
-        if (m_look.border) {
-            painter.setPen(QColor{0x64, 0x64, 0x64});
-            painter.drawRect(rect().adjusted(0, 0, -1, -1));
-        }
+        if (m_look.border) draw_border(painter, rect());
         if (m_look.marks) {
             // Seen on every ground: dark outside, light inside.
             painter.setPen(QPen{Qt::black, 2});
@@ -133,7 +135,7 @@ class SurfaceView : public PlacedView<C, SurfaceWidget> {
                                        new SurfaceWidget{session.pictures(), &parent}} {
         tell_mouse(session, control, this->shown());
         if (is_stop_of_the_desktop(control)) tell_keys(session, control, this->shown());
-        present(this->shown(), role_of(control), control.on_click || control.on_double_click);
+        present(this->shown(), role_of(control), reaction_of(control));
         if (control.on_file_drop) tell_file_drops(session, control, this->shown());
     }
 
@@ -148,7 +150,7 @@ class SurfaceView : public PlacedView<C, SurfaceWidget> {
     static SpokenRole role_of(screen::Image const& image) {
         bool const named =
             image.speak ? !image.speak().empty() : !image.SpokenName.get().empty();
-        return named ? SpokenRole::picture : SpokenRole::decoration;
+        return named ? SpokenRole::icon : SpokenRole::decoration;
     }
 
     static SurfaceWidget::Look look_of(screen::Image const& image) {
@@ -216,11 +218,10 @@ class PictureButton : public QAbstractButton {
         QColor const ground = isDown()       ? m_ground.darker(112)
                               : underMouse() ? m_ground.darker(104)
                                              : m_ground;
-        painter.setPen(hasFocus() ? QPen{QColor{0x0B, 0x3A, 0x66}, 2}
-                                  : QPen{QColor{0x9F, 0xB3, 0xC4}, 1});
+        // Where the keyboard stands is told by the ring round it, as for all others.
+        painter.setPen(QPen{QColor{0x9F, 0xB3, 0xC4}, 1});
         painter.setBrush(isEnabled() ? ground : QColor{0xEE, 0xEE, 0xEE});
-        double const inset = hasFocus() ? 1.5 : 0.5;
-        painter.drawRoundedRect(QRectF{rect()}.adjusted(inset, inset, -inset, -inset), 3, 3);
+        painter.drawRoundedRect(QRectF{rect()}.adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
         QSize const natural = m_pictures.natural_size(m_picture);
         QSize const room = size() - QSize{2, 2};
         QSize const drawn = natural.width() > room.width() || natural.height() > room.height()

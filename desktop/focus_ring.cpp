@@ -11,6 +11,9 @@ namespace {
 constexpr int air = 2;        // pixels between a control and the middle of its ring
 constexpr int thickness = 2;  // pixels of the dark line; the light edge adds one on each side
 constexpr int reach = air + thickness;
+// What stands at the window's edge leaves no room round it: so much of the ring is cut off
+// there, so that the rest does not lie on the letters inside.
+constexpr int cut_at_edge = 2;
 constexpr int cross_arm = 5;
 
 }  // namespace
@@ -63,7 +66,9 @@ void FocusRing::place() {
         return;
     }
     QRect const round{m_target->mapTo(&m_canvas, QPoint{0, 0}), m_target->size()};
-    setGeometry(round.adjusted(-reach, -reach, reach, reach).intersected(m_canvas.rect()));
+    QRect const room =
+        m_canvas.rect().adjusted(-cut_at_edge, -cut_at_edge, cut_at_edge, cut_at_edge);
+    setGeometry(round.adjusted(-reach, -reach, reach, reach).intersected(room));
     raise();
     show();
 }

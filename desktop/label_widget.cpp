@@ -1,15 +1,14 @@
 // Painting of labels.
 #include "desktop/label_widget.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QFontMetricsF>
-#include <QMenu>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
 #include <utility>
+
+#include "desktop/copy_menu.h"
 
 namespace navarun::desktop {
 
@@ -25,6 +24,11 @@ bool wraps(QRect const& box, QFont const& font) {
 }
 
 }  // namespace
+
+void draw_border(QPainter& painter, QRect const& box) {
+    QRegion const inside{box.adjusted(1, 1, -1, -1)};
+    for (QRect const& side : QRegion{box} - inside) painter.fillRect(side, border_colour);
+}
 
 LabelWidget::LabelWidget(QWidget* parent) : QWidget{parent} {}
 
@@ -59,22 +63,14 @@ void LabelWidget::contextMenuEvent(QContextMenuEvent* event) {
         event->ignore();
         return;
     }
-    auto* const menu = new QMenu{this};
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    auto* const copy = menu->addAction(QStringLiteral("Co&pier"));
-    QObject::connect(copy, &QAction::triggered, this,
-                     [text] { QApplication::clipboard()->setText(text); });
-    bool const by_key = event->reason() == QContextMenuEvent::Keyboard;
-    menu->popup(by_key ? mapToGlobal(rect().center()) : event->globalPos());
+    offer_copies(*this, *event, rect().center(),
+                 {{QStringLiteral("Co&pier"), true, [text] { return text; }}});
 }
 
 void LabelWidget::paintEvent(QPaintEvent*) {
     QPainter painter{this};
     if (m_look.opaque) painter.fillRect(rect(), m_look.back);
-    if (m_look.border) {
-        painter.setPen(border_colour);
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    }
+    if (m_look.border) draw_border(painter, rect());
     painter.setPen(m_look.fore);
     painter.setFont(m_look.font);
     auto const across = m_look.centred ? Qt::AlignHCenter : Qt::AlignLeft;

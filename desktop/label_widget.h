@@ -1,9 +1,14 @@
 // A label: one text in a box, with or without ground and border.
 #pragma once
 
+#include <QPainter>
 #include <QWidget>
 
 namespace navarun::desktop {
+
+/// The single line round a box, inside it. It ends where the ground of the box ends, also where
+/// the screen has one pixel and a half to the pixel.
+void draw_border(QPainter& painter, QRect const& box);
 
 class LabelWidget : public QWidget {
   public:

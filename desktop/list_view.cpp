@@ -2,6 +2,11 @@
 #include "desktop/list_view.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <algorithm>
+
+#include "desktop/copy_menu.h"
 
 namespace navarun::desktop {
 
@@ -62,6 +67,66 @@ class ListKeys : public QObject {
     screen::List& m_list;
 };
 
+// The right button offers texts for copying and does nothing else: a choice may load, move or
+// delete, and a field that loses the keyboard may be repaired.
+class ListMenu : public QObject {
+  public:
+    ListMenu(screen::List& list, QListView& view) : QObject{&view}, m_list{list}, m_view{view} {
+        // Else any button would bring the keyboard.
+        view.setFocusPolicy(Qt::TabFocus);
+        view.installEventFilter(this);
+        view.viewport()->installEventFilter(this);
+        view.verticalScrollBar()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        bool const on_bar = watched == m_view.verticalScrollBar();
+        switch (event->type()) {
+            case QEvent::MouseButtonPress:
+            case QEvent::MouseButtonRelease:
+            case QEvent::MouseButtonDblClick:
+                if (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton)
+                    return !on_bar;
+                if (event->type() == QEvent::MouseButtonPress)
+                    m_view.setFocus(Qt::MouseFocusReason);
+                return false;
+            case QEvent::ContextMenu:
+                if (on_bar) return false;
+                offer(*static_cast<QContextMenuEvent*>(event));
+                return true;
+            default:
+                return false;
+        }
+    }
+
+  private:
+    void offer(QContextMenuEvent const& asked) {
+        bool const keyboard = asked.reason() == QContextMenuEvent::Keyboard;
+        QPoint const where = m_view.viewport()->mapFromGlobal(asked.globalPos());
+        int const row = keyboard ? m_list.ListIndex : m_view.indexAt(where).row();
+        auto const place = m_view.visualRect(m_view.model()->index(std::max(row, 0), 0));
+        offer_copies(m_view, asked, place.center(),
+                     {{QStringLiteral("Co&pier la ligne"), row >= 0,
+                       [this, row] { return entry(row).trimmed(); }},
+                      {QStringLiteral("&Tout copier"), m_list.count() > 0,
+                       [this] { return all_entries(); }}});
+    }
+
+    QString entry(int row) const {
+        return row < m_list.count() ? to_qt(m_list.entries()[static_cast<std::size_t>(row)])
+                                    : QString{};
+    }
+
+    QString all_entries() const {
+        QString all;
+        for (auto const& line : m_list.entries()) all.append(to_qt(line)).append(u'\n');
+        return all;
+    }
+
+    screen::List& m_list;
+    QListView& m_view;
+};
+
 }  // namespace
 
 void EntriesModel::follow() {
@@ -93,6 +158,7 @@ ListView::ListView(Session& session, screen::List& list, QWidget& parent)
     view.setTextElideMode(Qt::ElideRight);
     view.setMouseTracking(true);
     new ListKeys{session, list, view};
+    new ListMenu{list, view};
     tell_focus(session, list, view);
     tell_pointer(session, list, *view.viewport());
     QObject::connect(&view, &QListView::clicked, &view,

@@ -50,6 +50,11 @@ namespace {
 // The portrait on the window and the same on the page.
 constexpr std::size_t files_kept = 3;
 
+// Pixels, the longer way: enough for the portrait on the finest screen and for the preview.
+constexpr int glance = 720;
+
+QDateTime written_at(QString const& path) { return QFileInfo{path}.lastModified(); }
+
 // A large photograph takes a moment; meanwhile the pointer tells so.
 class MomentOfPatience {
   public:
@@ -81,28 +86,38 @@ QImage decoded(QString const& path, QSize size) {
 
 void Pictures::draw_file(QPainter& painter, screen::PaintedFile const& file, double dots) {
     QSize const size = (QSizeF{file.width, file.height} * dots).toSize();
-    QDateTime const written = QFileInfo{QString::fromStdString(file.path)}.lastModified();
+    QString const path = QString::fromStdString(file.path);
+    QDateTime const written = written_at(path);
     auto known = std::ranges::find_if(m_files, [&](DecodedFile const& decoded_file) {
         return decoded_file.path == file.path && decoded_file.size == size &&
                decoded_file.written == written;
     });
     if (known == m_files.end()) {
         if (m_files.size() == files_kept) m_files.pop_front();
-        m_files.push_back(
-            {file.path, written, size, decoded(QString::fromStdString(file.path), size)});
+        bool const glanced = m_glance && m_glance->path == file.path &&
+                             m_glance->written == written &&
+                             m_glance->size.boundedTo(size) == size;
+        m_files.push_back({file.path, written, size,
+                           glanced ? m_glance->image.scaled(size, Qt::IgnoreAspectRatio,
+                                                            Qt::SmoothTransformation)
+                                   : decoded(path, size)});
         known = std::prev(m_files.end());
     }
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(QRectF{file.x, file.y, file.width, file.height}, known->image);
 }
 
+// Only the decoder tells whether there is anything to show. A large photograph is decoded once:
+// most of what that costs lies in reading it, whatever the size that comes out.
 QSize Pictures::file_size(QString const& path) {
     QImageReader reader{path};
     reader.setDecideFormatFromContent(true);
     QSize const size = reader.size();
-    // A glance at the size of a thumb tells whether the decoder yields anything at all.
-    QSize const thumb = size.scaled(64, 64, Qt::KeepAspectRatio).expandedTo(QSize{1, 1});
-    return size.isEmpty() || decoded(path, thumb).isNull() ? QSize{} : size;
+    if (size.isEmpty()) return {};
+    QSize const fitted = size.scaled(glance, glance, Qt::KeepAspectRatio);
+    QSize const kept = fitted.boundedTo(size).expandedTo(QSize{1, 1});
+    m_glance = {path.toStdString(), written_at(path), kept, decoded(path, kept)};
+    return m_glance->image.isNull() ? QSize{} : size;
 }
 
 QPixmap Pictures::pixmap(std::string const& name, QSize size, double device_pixel_ratio) {

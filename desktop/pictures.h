@@ -10,6 +10,7 @@
 #include <deque>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "desktop/drawn_picture.h"
@@ -28,8 +29,9 @@ class Pictures {
     /// Draws a picture file where it is painted; nothing where it cannot be decoded.
     /// @param dots  the file's pixels wanted to the painter's unit
     void draw_file(QPainter& painter, screen::PaintedFile const& file, double dots);
-    /// The size of a picture file in pixels; empty where it yields nothing to show.
-    static QSize file_size(QString const& path);
+    /// The size of a picture file in pixels; empty where it yields nothing to show. What was
+    /// decoded for that is kept for drawing.
+    QSize file_size(QString const& path);
     QPixmap pixmap(std::string const& name, QSize size, double device_pixel_ratio);
     /// The hand over what can be clicked.
     QCursor hand_cursor(std::string const& name, double device_pixel_ratio);
@@ -46,7 +48,8 @@ class Pictures {
         QSize size;
         QImage image;
     };
-    std::deque<DecodedFile> m_files;  // those drawn last
+    std::optional<DecodedFile> m_glance;  // of the file that was asked for last
+    std::deque<DecodedFile> m_files;      // those drawn last
 };
 
 }  // namespace navarun::desktop

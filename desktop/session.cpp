@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QProcess>
+#include <QPushButton>
 #include <QStandardPaths>
 #include <QTimer>
 #include <QUrl>
@@ -164,6 +165,10 @@ Answer Session::box(std::string_view title, std::string_view text, BoxButtons bu
     box.setIcon(question ? QMessageBox::Question : QMessageBox::Warning);
     box.setStandardButtons(question ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
     box.setDefaultButton(QMessageBox::Ok);
+    // What went wrong is sent on to who can help. The keyboard begins on the answer all the
+    // same.
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    box.button(QMessageBox::Ok)->setFocus();
     name_parts(box, question ? QStringLiteral("Question") : QStringLiteral("Avertissement"));
     bool const agreed = box.exec() == QMessageBox::Ok;
     return agreed || !question ? Answer::ok : Answer::cancel;
@@ -192,7 +197,7 @@ void Session::view_text(std::filesystem::path const& file, std::string const&) {
 }
 
 PictureSize Session::picture_size(std::filesystem::path const& file) {
-    QSize const size = Pictures::file_size(QString::fromStdString(path_text(file)));
+    QSize const size = m_pictures.file_size(QString::fromStdString(path_text(file)));
     if (size.isEmpty()) {
         throw FatalError{
             "L'image « " + path_text(file.filename()) + " » n'a pas pu être affichée.",

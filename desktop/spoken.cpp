@@ -15,10 +15,14 @@ namespace navarun::desktop {
 namespace {
 
 constexpr char const* role_property = "navarun_spoken_role";
-constexpr char const* reacts_property = "navarun_reacts";
+constexpr char const* reaction_property = "navarun_reaction";
+
+Reaction reaction_of(QWidget const& widget) {
+    return static_cast<Reaction>(widget.property(reaction_property).toInt());
+}
 
 QAccessible::Role role_of(QWidget const& widget) {
-    bool const reacts = widget.property(reacts_property).toBool();
+    bool const reacts = reaction_of(widget) != Reaction::none;
     switch (static_cast<SpokenRole>(widget.property(role_property).toInt())) {
         case SpokenRole::decoration:
             return QAccessible::Whitespace;
@@ -27,21 +31,24 @@ QAccessible::Role role_of(QWidget const& widget) {
         case SpokenRole::picture:
             // Nothing lies in a button, but in a picture other controls may lie.
             return QAccessible::Graphic;
+        case SpokenRole::icon:
+            return reacts ? QAccessible::Button : QAccessible::Graphic;
         case SpokenRole::group:
             return QAccessible::Grouping;
     }
     return QAccessible::Client;
 }
 
-// A widget that draws itself: pressing it from a screen reader is Enter on it.
+// A widget that draws itself: pressing it from a screen reader is Enter on it, and Shift+Enter
+// where it answers to a double click alone.
 class DrawnWidget : public QAccessibleWidget {
   public:
     explicit DrawnWidget(QWidget* widget)
-        : QAccessibleWidget{widget, role_of(*widget)},
-          m_reacts{widget->property(reacts_property).toBool()} {}
+        : QAccessibleWidget{widget, role_of(*widget)}, m_reaction{reaction_of(*widget)} {}
 
     QStringList actionNames() const override {
-        return m_reacts ? QStringList{pressAction(), setFocusAction()} : QStringList{};
+        if (m_reaction == Reaction::none) return {};
+        return {pressAction(), setFocusAction()};
     }
 
     void doAction(QString const& name) override {
@@ -49,12 +56,14 @@ class DrawnWidget : public QAccessibleWidget {
             QAccessibleWidget::doAction(name);
             return;
         }
-        QKeyEvent enter{QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier};
+        bool const twice = m_reaction == Reaction::double_click;
+        QKeyEvent enter{QEvent::KeyPress, Qt::Key_Return,
+                        twice ? Qt::ShiftModifier : Qt::NoModifier};
         QApplication::sendEvent(widget(), &enter);
     }
 
   private:
-    bool m_reacts;
+    Reaction m_reaction;
 };
 
 // A combo by its own name; the toolkit's calls it by what stands in it.
@@ -118,9 +127,9 @@ QAccessibleInterface* own_interface(QString const&, QObject* object) {
 
 void install_roles() { QAccessible::installFactory(own_interface); }
 
-void present(QWidget& widget, SpokenRole role, bool reacts) {
+void present(QWidget& widget, SpokenRole role, Reaction reaction) {
     widget.setProperty(role_property, static_cast<int>(role));
-    widget.setProperty(reacts_property, reacts);
+    widget.setProperty(reaction_property, static_cast<int>(reaction));
 }
 
 void show_name(QWidget& widget, QString const& name) {

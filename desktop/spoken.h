@@ -14,11 +14,19 @@ enum class SpokenRole {
     decoration,  // for the eye alone
     text,
     picture,
+    icon,  // a picture on which nothing lies
     group,
 };
 
-/// Called where the widget is made. @param reacts  a click does something; so it is a button.
-void present(QWidget& widget, SpokenRole role, bool reacts);
+/// What a widget that draws itself answers to; pressing it from a screen reader is just that.
+enum class Reaction {
+    none,
+    click,
+    double_click,
+};
+
+/// Called where the widget is made.
+void present(QWidget& widget, SpokenRole role, Reaction reaction);
 
 /// Gives a widget, and what the toolkit put into it, the name that screen readers say.
 void show_name(QWidget& widget, QString const& name);

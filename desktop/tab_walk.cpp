@@ -12,8 +12,9 @@ namespace {
 // The members of smaller arrays are stops of their own.
 constexpr int walked_from = 5;
 
+// Also before its window is shown: there the keyboard has to begin somewhere.
 bool usable(TabWalk::Stop const& stop) {
-    return stop.widget->isVisible() && stop.widget->isEnabled();
+    return stop.widget->isVisibleTo(stop.widget->window()) && stop.widget->isEnabled();
 }
 
 QPoint centre_of(TabWalk::Stop const& stop) {

@@ -22,7 +22,7 @@ test_packages=(
     xvfb xdotool imagemagick openbox x11-utils
     lintian desktop-file-utils appstream groff libgtk-3-bin
     at-spi2-core gir1.2-atspi-2.0 python3-gi python3 dbus-daemon
-    libfaketime x11-xkb-utils python3-numpy python3-pil
+    libfaketime x11-xkb-utils python3-numpy python3-pil qt6-gtk-platformtheme
     cups-daemon cups-client poppler-utils
 )
 

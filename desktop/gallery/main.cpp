@@ -1,4 +1,5 @@
-// galerie FOLDER [--scale N]: pictures of the program's windows, with no display.
+// galerie FOLDER [SCENE...] [--scale N]: pictures of the program's windows, with no display; of
+// all scenes or of those that are named.
 //
 // Each scene plays in a program of its own, on a clock that stands still, so that two runs give
 // the same pictures.
@@ -29,8 +30,10 @@ void tell(QtMsgType, QMessageLogContext const&, QString const& message) {
     std::cerr << message.toStdString() << '\n';
 }
 
-int take_pictures(QDir const& folder) {
+int take_pictures(QDir const& folder, QStringList wanted) {
+    bool const all = wanted.isEmpty();
     for (auto const& scene : navarun::gallery::scenes()) {
+        if (!all && wanted.removeAll(QLatin1String{scene.name}) == 0) continue;
         QString const file = folder.filePath(QLatin1String{scene.name} + QLatin1String{".png"});
         try {
             navarun::gallery::Stage stage;
@@ -40,7 +43,10 @@ int take_pictures(QDir const& folder) {
             return 1;
         }
     }
-    return 0;
+    for (auto const& unknown : wanted) {
+        std::cerr << "galerie: no scene " << unknown.toStdString() << '\n';
+    }
+    return wanted.isEmpty() ? 0 : 2;
 }
 
 }  // namespace
@@ -58,16 +64,20 @@ int main(int argc, char** argv) {
     options.setApplicationDescription(QStringLiteral("Pictures of the program's windows."));
     options.addPositionalArgument(QStringLiteral("folder"),
                                   QStringLiteral("where the pictures go"));
+    options.addPositionalArgument(QStringLiteral("scenes"),
+                                  QStringLiteral("those to be taken; all without"),
+                                  QStringLiteral("[scenes...]"));
     options.addOption({QStringLiteral("scale"), QStringLiteral("pixels to the pixel"),
                        QStringLiteral("number"), QStringLiteral("1")});
     options.addHelpOption();
     options.process(application);
-    if (options.positionalArguments().size() != 1) options.showHelp(2);
+    QStringList wanted = options.positionalArguments();
+    if (wanted.isEmpty()) options.showHelp(2);
 
-    QDir const folder{options.positionalArguments().constFirst()};
+    QDir const folder{wanted.takeFirst()};
     if (!folder.mkpath(QStringLiteral("."))) {
         std::cerr << "galerie: the folder cannot be made\n";
         return 1;
     }
-    return take_pictures(folder);
+    return take_pictures(folder, wanted);
 }

@@ -74,7 +74,7 @@ void save_some_records(Stage& stage) {
     };
     constexpr Client clients[] = {
         {"Alix", "Modèle", "07031952"},     {"Dominique", "Essai", "15081971"},
-        {"Claude", "Fictif", "29021988"},   {"Sacha", "Témoin", "03112001"},
+        {"Morgan", "Fictif", "29021988"},   {"Sacha", "Témoin", "03112001"},
         {"Camille", "Exemple", "22101986"},
     };
     for (auto const& client : clients) {

@@ -64,7 +64,10 @@ QPixmap Stage::picture(screen::Form const& form) {
     window->resize(window->maximumSize());
     window->activateWindow();
     QApplication::processEvents();
-    return taken(window->grab());
+    // Without the room for scroll bars that a small screen asks for.
+    auto const* const canvas = window->findChild<QWidget*>(QStringLiteral("canvas"));
+    QRect const inside{canvas->mapTo(window, QPoint{0, 0}), canvas->size()};
+    return taken(window->grab(QRect{QPoint{0, 0}, inside.bottomRight()}));
 }
 
 QPixmap Stage::sheet(screen::Page const& page) {

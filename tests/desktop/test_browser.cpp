@@ -7,6 +7,7 @@
 #include <QListView>
 #include <QListWidget>
 #include <QMimeData>
+#include <QPainter>
 #include <QScrollBar>
 #include <QUrl>
 #include <filesystem>
@@ -403,6 +404,27 @@ TEST_F(BrowserWindow, AnEnormousPortraitIsDecodedAtTheSizeOfTheBox) {
     EXPECT_TRUE(box_shows(QColor{128, 128, 128}));
     // In full it would be 400 MB and more, whatever watches over the memory.
     EXPECT_LT(memory_peak_in_megabytes() - before, 200);
+}
+
+// A photograph of today's telephones takes its time to decode: once, though its size is asked
+// for before it is painted.
+TEST_F(BrowserWindow, APortraitIsDecodedOnce) {
+    write_picture("zoe.jpg", "jpg", plain(2000, 2000, Qt::red));
+    desktop::Pictures pictures;
+    auto const file = images() / "zoe.jpg";
+    auto const written = std::filesystem::last_write_time(file);
+    EXPECT_EQ(pictures.file_size(QString::fromStdString(file.string())), QSize(2000, 2000));
+    write_picture("zoe.jpg", "jpg", plain(2000, 2000, Qt::blue));
+    std::filesystem::last_write_time(file, written);
+    QImage box = plain(130, 130, Qt::white);
+    QPainter painter{&box};
+    pictures.draw_file(painter,
+                       {.path = file.string(), .x = 0, .y = 0, .width = 130, .height = 130}, 1);
+    EXPECT_GT(box.pixelColor(65, 65).red(), 240);
+    // What the glance is too small for, the paper above all, is decoded as it is.
+    pictures.draw_file(painter,
+                       {.path = file.string(), .x = 0, .y = 0, .width = 130, .height = 130}, 8);
+    EXPECT_GT(box.pixelColor(65, 65).blue(), 240);
 }
 
 // A portrait replaced on the disk under its own name is the new one from then on.

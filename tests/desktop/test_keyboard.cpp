@@ -367,6 +367,21 @@ TEST_F(Keyboard, WhatClosesGivesTheKeyboardToNobodyElse) {
     EXPECT_EQ(session().program().screen.focus(), &form().File_Fichier);
 }
 
+// Where the bar of the years had the keyboard at once, Space would take the periods off the
+// page.
+TEST_F(Keyboard, ASmallWindowBeginsWhereItsTabDoes) {
+    auto const* const focused = session().program().screen.focus();
+    auto& options = session().program().option_impression;
+    choose_menu(form().MnuApercu_Impression);
+    open(options);
+    EXPECT_EQ(keyboard(), shown(options.Check_Mahadasha))
+        << keyboard()->objectName().toStdString();
+    EXPECT_EQ(session().program().screen.focus(), focused) << "nothing has been done in it yet";
+    EXPECT_TRUE(options.Check_periode.Value.get());
+    press(Qt::Key_Space);
+    EXPECT_FALSE(options.Check_Mahadasha.Value.get());
+}
+
 TEST_F(Keyboard, AScreenReaderMovesTheFocus) {
     widget(form().Combo_jourNaiss).setFocus(Qt::OtherFocusReason);
     EXPECT_EQ(session().program().screen.focus(), &form().Combo_jourNaiss);

@@ -56,6 +56,28 @@ TEST_F(TextsFit, NoCaptionOnTheWindowIsCutAtItsFirstSight) {
     }
 }
 
+// Where the screen has one pixel and a half to the pixel, too.
+TEST_F(TextsFit, TheBordersEndWhereTheirGroundsEnd) {
+    QImage const picture = window().grab().toImage();
+    double const ratio = picture.devicePixelRatio();
+    for (screen::Label const* label : {&form().Label_Lal_Kitab, &form().Label_zodiac}) {
+        QWidget const& shown = widget(*label);
+        QPoint const corner = shown.mapTo(&window(), QPoint{0, 0});
+        // Along a line below the letters, from the middle to the right and beyond.
+        int const y = static_cast<int>((corner.y() + shown.height() - 4) * ratio);
+        int const middle = static_cast<int>((corner.x() + shown.width() / 2) * ratio);
+        int const beyond = static_cast<int>((corner.x() + shown.width() + 2) * ratio);
+        QColor const ground = desktop::to_qt(label->BackColor.get());
+        bool border_met = false;
+        for (int x = middle; x < beyond; ++x) {
+            bool const on_ground = picture.pixelColor(x, y) == ground;
+            border_met = border_met || !on_ground;
+            EXPECT_FALSE(border_met && on_ground) << label->full_name() << " at " << x;
+        }
+        EXPECT_TRUE(border_met) << label->full_name();
+    }
+}
+
 // The longest names, in all rows of a cell at once, stay inside the cell's box and off each
 // other.
 TEST_F(TextsFit, TheLongestNamesStayInsideTheirCells) {

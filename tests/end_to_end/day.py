@@ -11,12 +11,10 @@ import signal
 import sys
 import time
 
-from desk import Desk, end_with_parent, wait_for
+from desk import FAKETIME, Desk, end_with_parent, wait_for
 from eye import Eye
 
 DATE, TIME = ("21/11/2026", "2026-11-21"), "10:15:00"
-# Where Debian keeps the library that tells a program what time it is.
-FAKETIME = f"/usr/lib/{os.uname().machine}-linux-gnu/faketime/libfaketime.so.1"
 SETTLED = float(os.environ.get("SETTLED", 20))  # seconds until what differs counts as a difference
 
 

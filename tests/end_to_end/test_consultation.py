@@ -128,6 +128,23 @@ THE_LOOKS = [
     click("Image_cal_Julien", "takes it back by the mark"),
     click("Command2", "generates"),
 ]
+
+
+def the_place(day):
+    """Before all other windows, and behind them."""
+
+    def state():
+        number = day.desk.windows("N.A.V.A.R.U.N")[0]
+        return day.desk.run(["xprop", "-id", number, "_NET_WM_STATE"]).decode()
+
+    yield Row("keeps the window before all others",
+              [("menu", "MnuDevant"), ("wait", lambda: "_ABOVE" in state(), "the window above")],
+              [ask("click", "MnuDevant")])
+    yield Row("puts it behind them",
+              [("menu", "MnuDevant"), ("wait", lambda: "_ABOVE" not in state(), "the window no more above")],
+              [ask("click", "MnuDevant")])
+
+
 THE_END = [
     click("Command_Disk_Vert", "saves"),
     click("Command_reset", "begins anew"),
@@ -135,5 +152,11 @@ THE_END = [
     answered(menu("MnuQuitter", "leaves"), 1),
 ]
 
-play_day("consultation",
-         [*A_WINDOW_IN_BETWEEN, *THE_PERSON, *THE_AGES, *THE_CELLS, *THE_CHOOSER, *THE_WINDOWS, *THE_ARROWS, *THE_LOOKS, *THE_END])
+
+def rows(day):
+    for part in (A_WINDOW_IN_BETWEEN, THE_PERSON, THE_AGES, THE_CELLS, THE_CHOOSER, THE_WINDOWS,
+                 THE_ARROWS, THE_LOOKS, the_place(day), THE_END):
+        yield from part
+
+
+play_day("consultation", rows)

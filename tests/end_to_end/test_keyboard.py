@@ -12,8 +12,8 @@ sys.path[:0] = [HERE, os.path.join(HERE, "../support")]
 from day import Row, play_day
 from rows import *
 
-ENTER = 13
-BAR, LIST = "HScroll_age", "Affiche_cycle.List_periode"
+ENTER, CONTROL = 13, 17
+BAR, LIST, RECORDS = "HScroll_age", "Affiche_cycle.List_periode", "File_Fichier"
 
 
 def clicked(name):
@@ -50,13 +50,30 @@ ROWS = [
     Row("opens the palace of destiny", [("keys", "alt+a", "p"), ("wait window", "PALAIS DU DESTIN")],
         [ask("click", "Mnu_palaisdestin")]),
     Row("closes it", [("keys", "alt+F4")], [{"op": "close", "form": "Palais_du_destin"}]),
+    Row("opens the preview", [("keys", "alt+i", "a"), ("wait window", "Option Impression")],
+        [ask("click", "MnuApercu_Impression")]),
+    Row("takes the great cycle off the page by Space", [("keys", "space")],
+        [ask("click", "Option_impression.Check_Mahadasha")]),
+    Row("closes it", [("keys", "alt+F4")], [{"op": "close", "form": "Option_impression"}]),
     tab_to("Label_age", ("keys", "Return"), then=clicked, told="opens the choice of an age"),
     Row("leaves it by Escape", [("keys", "Escape")], [{"op": "close", "form": "choix_age"}]),
 ]
 KEEP = [
     tab_to("Command_Disk_Vert", ("keys", "Return"), told="saves by Enter", then=clicked),
-    tab_to("Charge", ("keys", "Return"), then=clicked, told="opens a folder", back=True),
+    tab_to("Charge(1)", ("keys", "Return"), then=clicked, told="opens the folder", back=True),
 ]
+
+
+def move_the_record(day):
+    """To the other folder: Control takes it up, Tab leads to the folders, Enter lets it go."""
+    yield tab_to("Charge(1)", ("keys", "Return"), then=clicked, back=True, told="opens the folder again")
+    yield tab_to(RECORDS, ("keys", "Down"), then=lambda name: [ask("choose", name, index=0)], back=True,
+                 told="selects the record")
+    yield Row("takes it up by Control", [("keys", "Control_L")], [ask("key", RECORDS, code=CONTROL)])
+    yield Row("lets it go on the other folder", [("keys", "Tab", "Tab", "Return")],
+              [ask("drop", "Charge(2)")])
+    kept = os.listdir(os.path.join(day.folders[0], "RESSOURCES", "DATA2"))
+    assert kept == ["Témoin Zoé.fcy"], kept
 
 
 def rows(day):
@@ -65,6 +82,8 @@ def rows(day):
     yield KEEP[1]
     yield Row("searches", [("type", "tém")], [ask("type", "Text_Cherche", text="tém")])
     yield Row("loads by Enter", [("keys", "Return")], [ask("key", "Text_Cherche", code=ENTER)])
+    assert not day.pilot.value("Frame_FileFichier.Visible"), "nothing was found and loaded"
+    yield from move_the_record(day)
     yield Row("would leave, but stays", [("keys", "alt+F4")],
               [{"op": "answer", "value": 2}, {"op": "close", "form": "Form1"}])
     yield Row("leaves", [("keys", "alt+F4")],

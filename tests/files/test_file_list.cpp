@@ -98,6 +98,22 @@ TEST_F(Listing, IsSortedByTheCapitalFormInTheCodePage) {
     EXPECT_EQ(list_files(path(), records), sorted);
 }
 
+// Families come one after the other, however long what they have in common is.
+TEST_F(Listing, NamesThatBeginAlikeAreSortedByTheirEnds) {
+    std::vector<std::string> const sorted{
+        "Dupont-Aignan Anne.fcy",
+        "Dupont-Aignan Anne1.fcy",
+        "Dupont-aignan Zoé.fcy",
+        "Dupont-Aignant.fcy",
+        "DUPONT.fcy",
+        "dupont.fcy",
+        "Dupontel Ève.fcy",
+        "Dupontel Éve.fcy",
+    };
+    for (auto name = sorted.rbegin(); name != sorted.rend(); ++name) make(*name);
+    EXPECT_EQ(list_files(path(), records), sorted);
+}
+
 TEST_F(Listing, NamesThatDifferInCaseAloneBothStand) {
     make("dupont.fcy");
     make("DUPONT.fcy");
