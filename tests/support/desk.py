@@ -155,10 +155,16 @@ class Desk:
         return found.decode().split()
 
     def geometry(self, window):
-        """Left, top, width and height of a window without its frame, in pixels of the screen."""
-        lines = self.run(["xdotool", "getwindowgeometry", "--shell", window]).decode().split()
-        values = dict(line.split("=") for line in lines)
-        return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+        """Left, top, width and height of a window without its frame, in pixels of the screen;
+        None for a window that is gone."""
+        told = dict(
+            line.strip().rsplit(" ", 1)
+            for line in self.run(["xwininfo", "-id", window]).decode().splitlines()
+            if ": " in line
+        )
+        told = {name.strip(" :"): value for name, value in told.items()}
+        names = ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")
+        return tuple(int(told[name]) for name in names) if names[0] in told else None
 
     def picture(self, file, window="root"):
         """Saves what a window shows."""
