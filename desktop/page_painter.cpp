@@ -2,6 +2,7 @@
 #include "desktop/page_painter.h"
 
 #include <QFontMetricsF>
+#include <QPainterPath>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -17,6 +18,13 @@ constexpr double points_per_inch = 72;
 constexpr double stroke_inches = 0.01;
 // Enough for a portrait of its size on paper.
 constexpr double picture_dots_per_inch = 600;
+// Windows fits each small letter to the pixels by itself, which tears the words of a page made
+// small for the screen apart: there they are drawn by their outlines.
+#ifdef Q_OS_WIN
+constexpr bool screen_letters_by_outline = true;
+#else
+constexpr bool screen_letters_by_outline = false;
+#endif
 
 class OperationPainter {
   public:
@@ -104,10 +112,21 @@ class OperationPainter {
         for (QString const& part : line.split(QLatin1Char('\t'))) {
             if (std::exchange(after_a_tab, true)) end = stop_after(end);
             if (part.isEmpty()) continue;
-            m_painter.drawText(QPointF{end * page_text_units, baseline}, part);
+            draw_letters(QPointF{end * page_text_units, baseline}, part);
             end += metrics.horizontalAdvance(part) / page_text_units;
         }
         m_painter.restore();
+    }
+
+    void draw_letters(QPointF const& where, QString const& part) const {
+        if (!screen_letters_by_outline || m_device == PageDevice::paper) {
+            m_painter.drawText(where, part);
+            return;
+        }
+        QPainterPath letters;
+        letters.addText(where, m_painter.font(), part);
+        m_painter.setRenderHint(QPainter::Antialiasing);
+        m_painter.fillPath(letters, m_painter.pen().brush());
     }
 
     static double stop_after(double place) {

@@ -37,6 +37,9 @@ windows_packages=(
 windows_program_packages=(
     dpkg-dev librsvg2-bin imagemagick
 )
+windows_proof_packages=(
+    ghostscript
+)
 
 long_test_packages=(
     clang libclang-rt-14-dev

@@ -158,10 +158,12 @@ class Desk:
         return found.decode().split()
 
     def geometry(self, window):
-        """Left, top, width and height of a window without its frame, in pixels of the screen."""
+        """Left, top, width and height of a window without its frame, in pixels of the screen;
+        None for a window that is gone."""
         told = self.run(["xwininfo", "-id", window]).decode()
         names = ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")
-        return tuple(int(re.search(name + r": +(-?\d+)", told).group(1)) for name in names)
+        found = [re.search(name + r": +(-?\d+)", told) for name in names]
+        return tuple(int(number[1]) for number in found) if all(found) else None
 
     def picture(self, file, window="root"):
         """Saves what a window shows."""

@@ -27,24 +27,9 @@ SMALL_WINDOWS = {
 }
 
 
-def values(text, name):
-    line = next((line for line in text.decode().splitlines() if name in line), None)
-    return None if line is None else line.split()[-1]
-
-
-def client(desk, window):
-    """Left, top, width, height of a window without its frame."""
-    told = desk.run(["xwininfo", "-id", window])
-    found = [
-        values(told, name)
-        for name in ("Absolute upper-left X:", "Absolute upper-left Y:", "Width:", "Height:")
-    ]
-    return None if None in found else tuple(map(int, found))
-
-
 def framed(desk, window):
     """The same with its frame; nothing as long as it has none."""
-    inner = client(desk, window)
+    inner = desk.geometry(window)
     told = desk.run(["xprop", "-id", window, "_NET_FRAME_EXTENTS"]).decode()
     if inner is None or "=" not in told:
         return None
@@ -84,7 +69,7 @@ def check(program, scale, width, height, pictures):
 
         main = shown(MAIN)
         check_inside(MAIN, main)
-        _, _, client_width, client_height = client(desk, main)
+        _, _, client_width, client_height = desk.geometry(main)
         if fits:
             assert abs(client_width - DESIGNED[0] * scale) <= scale, client_width
             assert client_height >= DESIGNED[1] * scale, client_height
