@@ -152,7 +152,7 @@ bool is_whole(std::string const& file, std::string const& bytes) {
 }
 
 TEST(Killed, AtAnyMomentOfAWorkingDayTheNextStartComesUpAndEveryRecordIsWhole) {
-    int const kills = std::getenv("NAVARUN_LONG_TESTS") != nullptr ? 500 : 60;
+    int const kills = 500;
     TemporaryFolder folder;
     auto const resources = folder.path() / "RESSOURCES";
     Work work{500};
