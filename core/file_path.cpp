@@ -17,7 +17,9 @@ constexpr char32_t first_of_two_units = 0x10000;
 constexpr bool high_surrogate(char32_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
 constexpr bool low_surrogate(char32_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 
-void append(Native& units, char32_t character) {
+// Both are for the system whose names are no bytes; elsewhere they are only read by the
+// compiler.
+[[maybe_unused]] void append(Native& units, char32_t character) {
     if (character < first_of_two_units) {
         units.push_back(static_cast<Unit>(character));
         return;
@@ -27,7 +29,7 @@ void append(Native& units, char32_t character) {
     units.push_back(static_cast<Unit>(0xDC00 + (rest & 0x3FFU)));
 }
 
-std::string text_of(Native const& units) {
+[[maybe_unused]] std::string text_of(Native const& units) {
     constexpr char32_t replacement_character = 0xFFFD;
     std::string result;
     for (std::size_t i = 0; i < units.size(); ++i) {

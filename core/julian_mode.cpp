@@ -92,7 +92,7 @@ std::string Conversion_JG(Program& program) {
         program.platform.box("Erreur", "Mauvais format de date !", BoxButtons::ok);
         return {};
     }
-    std::string const date = conversion.gregorian ? write_date(*conversion.gregorian) : "";
+    std::string date = conversion.gregorian ? write_date(*conversion.gregorian) : "";
     keep_conversion(consultation, date);
     return date;
 }

@@ -70,8 +70,8 @@ char32_t take_character(std::string_view& rest) {
         rest.remove_prefix(1);
         return lead;
     }
-    std::size_t bytes = 1;
-    char32_t c = lead;
+    std::size_t bytes = 0;
+    char32_t c = 0;
     char32_t least = 0;  // what a sequence of this length must reach
     if (lead >= 0xF0 && lead <= 0xF4) {
         bytes = 4, c = lead & 0x07U, least = 0x10000;

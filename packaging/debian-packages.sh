@@ -24,6 +24,7 @@ test_packages=(
     at-spi2-core gir1.2-atspi-2.0 python3-gi python3 dbus-daemon
     libfaketime x11-xkb-utils python3-numpy python3-pil qt6-gtk-platformtheme
     cups-daemon cups-client poppler-utils
+    clang libclang-rt-14-dev
 )
 
 bench_packages=(
@@ -42,7 +43,7 @@ windows_proof_packages=(
 )
 
 long_test_packages=(
-    clang libclang-rt-14-dev
+    clang-tidy
 )
 
 # Installs those of the given packages that are not there; by sudo where this is not root.

@@ -113,10 +113,9 @@ std::string own_words(Control const& control) {
 
 // A lord is said in full where the window shows two letters.
 std::string lord_said(std::string_view shown) {
-    auto const short_ones =
-        std::ranges::subrange{noms_seigneurs.begin() + short_names, noms_seigneurs.end()};
-    auto const found = std::ranges::find(short_ones, shown);
-    return std::string{found == short_ones.end() ? shown : *(found - short_names)};
+    auto const* const found =
+        std::find(noms_seigneurs.begin() + short_names, noms_seigneurs.end(), shown);
+    return std::string{found == noms_seigneurs.end() ? shown : *(found - short_names)};
 }
 
 std::string since(std::string_view date) {

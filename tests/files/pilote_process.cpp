@@ -61,10 +61,27 @@ Json PiloteProcess::ask(Json const& request) {
             m_read.erase(0, end + 1);
             return answer;
         }
-        char block[65536];
-        auto const count = ::read(m_from, block, sizeof block);
-        if (count <= 0) return nullptr;
-        m_read.append(block, static_cast<std::size_t>(count));
+        if (!read_more()) return nullptr;
+    }
+}
+
+bool PiloteProcess::read_more() {
+    char block[65536];
+    auto const count = ::read(m_from, block, sizeof block);
+    if (count <= 0) return false;
+    m_read.append(block, static_cast<std::size_t>(count));
+    return true;
+}
+
+void PiloteProcess::wait_for_answers(std::size_t count) {
+    while (count > 0) {
+        auto const end = m_read.find('\n');
+        if (end == std::string::npos) {
+            if (!read_more()) return;
+            continue;
+        }
+        m_read.erase(0, end + 1);
+        --count;
     }
 }
 

@@ -26,12 +26,18 @@ class PiloteProcess {
     Json ask(Json const& request);
     /// Sends without waiting. False where the program no longer listens.
     bool send(std::string const& line);
-    /// May be called by another thread while send() waits.
+    /// Waits for so many answers to what was sent; comes back sooner where the program has
+    /// ended.
+    void wait_for_answers(std::size_t count);
+    /// Like the above, may be called by another thread while send() waits.
     void kill();
     /// Lets it end by itself; its exit status, or minus the number of the signal.
     int wait();
 
   private:
+    /// Adds what the program has written. False where it has ended.
+    bool read_more();
+
     int m_pid = -1;
     int m_to = -1;
     int m_from = -1;

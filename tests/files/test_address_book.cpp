@@ -87,7 +87,7 @@ TEST_F(AddressBook, DeletingAsksInCapitals) {
     visit.effects();
     visit.click("Command_reset");
     EXPECT_EQ(visit.effects(),
-              (Json{box("EFFACER", "VOULEZ-VOUS EFFACER: \r\nFR.WIKIPEDIA.ORG ?", 1)}));
+              Json::array({box("EFFACER", "VOULEZ-VOUS EFFACER: \r\nFR.WIKIPEDIA.ORG ?", 1)}));
     EXPECT_EQ(addresses().size(), 9U);
     EXPECT_EQ(visit.number("List_Internet.ListIndex"), -1);
     EXPECT_EQ(visit.text("List_Internet.ToolTipText"), "");
@@ -112,7 +112,7 @@ TEST_F(AddressBook, DeletingWithoutASelectionSaysSo) {
     visit.effects();
     visit.click("Command_reset");
     EXPECT_EQ(visit.effects(),
-              (Json{message("Veuillez sélectionnez une adresse à effacer !", 2.3)}));
+              Json::array({message("Veuillez sélectionnez une adresse à effacer !", 2.3)}));
     EXPECT_EQ(addresses().size(), 10U);
     EXPECT_FALSE(visit.truth("frame_messageSauve.Visible"));
 }

@@ -185,7 +185,7 @@ TEST_F(Browsing, TheDeleteKeyAsksAndDeletes) {
     visit.choose("File_Fichier", "Éluard Paul.fcy");
     visit.key("File_Fichier", key_delete);
     EXPECT_EQ(visit.effects(),
-              (Json{box("EFFACER", "VOULEZ-VOUS EFFACER: \r\nÉLUARD PAUL.FCY ?", 1)}));
+              Json::array({box("EFFACER", "VOULEZ-VOUS EFFACER: \r\nÉLUARD PAUL.FCY ?", 1)}));
     EXPECT_EQ(visit.list(), (std::vector<std::string>{"adam Jean.fcy", "Dupont Zoe.fcy"}));
     EXPECT_EQ(names_in(visit.data(1)).size(), 2U);
     EXPECT_EQ(visit.text("Label_Nbr_Fiche.Caption"), "2");
@@ -198,7 +198,7 @@ TEST_F(Browsing, TheDeleteButtonAsksAndDeletes) {
     visit.choose("File_Fichier", "Dupont Zoe.fcy");
     visit.click("Command_reset");
     EXPECT_EQ(visit.effects(),
-              (Json{box("EFFACER", "VOULEZ-VOUS EFFACER: \r\nDUPONT ZOE.FCY ?", 1)}));
+              Json::array({box("EFFACER", "VOULEZ-VOUS EFFACER: \r\nDUPONT ZOE.FCY ?", 1)}));
     EXPECT_EQ(visit.list(), (std::vector<std::string>{"adam Jean.fcy", "Éluard Paul.fcy"}));
     EXPECT_TRUE(visit.truth("Frame_FileFichier.Visible"));
 }
@@ -224,10 +224,10 @@ TEST_F(Browsing, DeletingWithoutASelectionSaysSo) {
     visit.click("Charge(1)");
     visit.click("Command_reset");
     EXPECT_EQ(visit.effects(),
-              (Json{message("Veuillez sélectionnez un fichier à effacer !", 2)}));
+              Json::array({message("Veuillez sélectionnez un fichier à effacer !", 2)}));
     visit.key("File_Fichier", key_delete);
     EXPECT_EQ(visit.effects(),
-              (Json{message("Veuillez sélectionnez un fichier à effacer !", 2)}));
+              Json::array({message("Veuillez sélectionnez un fichier à effacer !", 2)}));
     EXPECT_EQ(names_in(visit.data(1)).size(), 3U);
     EXPECT_FALSE(visit.truth("frame_messageSauve.Visible"));
 }
@@ -412,7 +412,8 @@ TEST_F(Browsing, DeletingAPortraitLeavesTheRecordsAlone) {
     visit.click("Bouton_Image");
     visit.choose("File_Fichier", "zoe.jpg");
     visit.key("File_Fichier", key_delete);
-    EXPECT_EQ(visit.effects(), (Json{box("EFFACER", "VOULEZ-VOUS EFFACER: \r\nZOE.JPG ?", 1)}));
+    EXPECT_EQ(visit.effects(),
+              Json::array({box("EFFACER", "VOULEZ-VOUS EFFACER: \r\nZOE.JPG ?", 1)}));
     EXPECT_EQ(visit.list(), std::vector<std::string>{"Jean.GIF"});
     EXPECT_EQ(visit.text("Label_Nbr_Fiche.Caption"), "1");
     EXPECT_EQ(visit.record("Dupont Zoe.fcy"), record_of("Zoe", "Dupont", "zoe.jpg"));

@@ -253,7 +253,7 @@ TEST(Loading, ADateThatIsNoneStopsBeforeTheComputation) {
     auto const mansion = visit.text("Label_nomNakshatra.Caption");
     visit.effects();
     visit.load("a.fcy");
-    EXPECT_EQ(visit.effects(), (Json{box("Erreur", "Date de naissance invalide !", 1)}));
+    EXPECT_EQ(visit.effects(), Json::array({box("Erreur", "Date de naissance invalide !", 1)}));
     EXPECT_EQ(visit.text("HScroll_age.Tag"), "ROUGE");
     EXPECT_EQ(visit.text("Label_nomNakshatra.Caption"), mansion);
     EXPECT_EQ(visit.text("Text_nom.Text"), "Dupont");

@@ -127,7 +127,8 @@ TEST_F(Portrait, ADroppedPictureNeverReplacesAnother) {
 TEST_F(Portrait, AFileThatIsNoPictureIsRefusedByAMessage) {
     for (char const* const name : {"notes.txt", "photo.png", "jpg", "photo.jpg.zip"}) {
         visit.drop_file(outside(name, jpeg(10, 10)));
-        EXPECT_EQ(visit.effects(), (Json{message("Ce fichier n'est pas une image !", 2)}))
+        EXPECT_EQ(visit.effects(),
+                  Json::array({message("Ce fichier n'est pas une image !", 2)}))
             << name;
     }
     EXPECT_EQ(names_in(visit.images()), (std::vector<std::string>{"jean.bmp", "zoe.jpg"}));

@@ -3,9 +3,8 @@
 #include <filesystem>
 #include <sstream>
 
-#include <unistd.h>
-
 #include "tests/fuzz/fuzz.h"
+#include "tests/support/folder_in_memory.h"
 #include "tools/pilote/pilot.h"
 
 namespace {
@@ -21,8 +20,7 @@ struct Folder {
         std::filesystem::remove_all(path);
         std::filesystem::create_directories(path);
     }
-    std::filesystem::path const path =
-        std::filesystem::temp_directory_path() / ("navarun-fuzz-" + std::to_string(::getpid()));
+    std::filesystem::path const path = navarun::test::folder_in_memory("navarun-fuzz");
 };
 
 }  // namespace

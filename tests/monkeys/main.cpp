@@ -10,11 +10,10 @@
 #include <map>
 #include <optional>
 
-#include <unistd.h>
-
 #include "tests/monkeys/monkey.h"
 #include "tests/monkeys/promises.h"
 #include "tests/monkeys/shrink.h"
+#include "tests/support/folder_in_memory.h"
 
 namespace {
 
@@ -31,14 +30,6 @@ struct Wanted {
     fs::path folder;
     bool prepare = false;
 };
-
-// Memory where there is some to write to: it is the program that is tried, not the disk.
-fs::path folder_of_this_process() {
-    fs::path const memory{"/dev/shm"};
-    bool const writable = ::access(memory.c_str(), W_OK | X_OK) == 0;
-    return (writable ? memory : fs::temp_directory_path()) /
-           ("navarun-monkeys-" + std::to_string(::getpid()));
-}
 
 bool number(char const* text, long& into) {
     char const* const end = text + std::strlen(text);
@@ -141,7 +132,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     bool const own_folder = wanted->folder.empty();
-    if (own_folder) wanted->folder = folder_of_this_process();
+    if (own_folder) wanted->folder = navarun::test::folder_in_memory("navarun-monkeys");
     fs::create_directories(wanted->folder);
     wanted->folder = fs::canonical(wanted->folder);
     if (wanted->prepare) {

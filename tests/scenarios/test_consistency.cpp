@@ -171,7 +171,7 @@ TEST(Consistency, ThePeriodsStepsAreDatesAtEqualDistances) {
             ASSERT_TRUE(day) << text;
             months.push_back(day->year * 12 + day->month);
         }
-        std::ranges::rotate(months, std::ranges::min_element(months));
+        std::rotate(months.begin(), std::ranges::min_element(months), months.end());
         int const step = months[1] - months[0];
         EXPECT_TRUE(step == 1 || step == 2 || step == 3 || step == 6) << step;
         for (std::size_t k = 1; k < 12; ++k) EXPECT_EQ(months[k] - months[k - 1], step);

@@ -90,9 +90,6 @@ INSTANTIATE_TEST_SUITE_P(StartUp, FirstGrid, testing::ValuesIn(first_grid),
 struct Field {
     char const* name;
     char const* value;
-    friend std::ostream& operator<<(std::ostream& out, Field const& row) {
-        return out << row.name;
-    }
 };
 
 // clang-format off

@@ -89,7 +89,8 @@ Json parsed(std::string const& line) {
         return !too_deep;
     };
     Json request = Json::parse(line, watch_depth, /*allow_exceptions=*/false);
-    return too_deep ? Json{Json::value_t::discarded} : request;
+    if (too_deep) return Json::value_t::discarded;
+    return request;
 }
 
 // "HH:MM:SS" in seconds since midnight; negative for anything else.
