@@ -2,6 +2,7 @@
 #include "core/calendar.h"
 
 #include <algorithm>
+#include <array>
 
 #include "core/text.h"
 
@@ -33,23 +34,34 @@ int read_field(std::string_view text, std::size_t digits) {
 }
 
 YearMonthDay clipped(std::chrono::year_month in_month, day wanted) {
+    // A day that every month has.
+    if (wanted <= day{28}) return in_month / wanted;
     auto const last = std::chrono::year_month_day_last{
         in_month.year(), std::chrono::month_day_last{in_month.month()}};
     return in_month / std::min(wanted, last.day());
 }
 
-void put_digits(std::string& text, std::size_t at, std::size_t count, int number) {
-    for (std::size_t i = count; i-- > 0; number /= 10) {
-        text[at + i] = static_cast<char>('0' + number % 10);
+// "00" to "99": a generation writes a hundred of these pairs.
+using TwoDigits = std::array<char, 2>;
+constexpr auto two_digits = [] {
+    std::array<TwoDigits, 100> all{};
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        all[i] = {static_cast<char>('0' + i / 10), static_cast<char>('0' + i % 10)};
     }
-}
+    return all;
+}();
 
 // The dates that the program wrote itself, which are nearly all that it reads: two, two and
 // four digits. Empty for any other wording.
 std::optional<Date> read_as_written(std::string_view text) {
     if (text.size() != 10 || text[2] != '/' || text[5] != '/') return {};
-    return date_of(read_field(text.substr(0, 2), 2), read_field(text.substr(3, 2), 2),
-                   read_field(text.substr(6), 4));
+    std::array<int, 10> digits{};
+    for (std::size_t const at : {0U, 1U, 3U, 4U, 6U, 7U, 8U, 9U}) {
+        digits[at] = text[at] - '0';
+        if (digits[at] < 0 || digits[at] > 9) return {};
+    }
+    auto const pair = [&](std::size_t at) { return 10 * digits[at] + digits[at + 1]; };
+    return date_of(pair(0), pair(3), 100 * pair(6) + pair(8));
 }
 
 }  // namespace
@@ -81,9 +93,14 @@ std::string write_date(Date date) { return write_date(YearMonthDay{date}); }
 
 std::string write_date(YearMonthDay date) {
     std::string text = "00/00/0000";
-    put_digits(text, 0, 2, static_cast<int>(unsigned{date.day()}));
-    put_digits(text, 3, 2, static_cast<int>(unsigned{date.month()}));
-    put_digits(text, 6, 4, int{date.year()});
+    auto const put = [&text](std::size_t at, unsigned number) {
+        std::ranges::copy(two_digits[number], &text[at]);
+    };
+    auto const year_number = static_cast<unsigned>(int{date.year()});
+    put(0, unsigned{date.day()});
+    put(3, unsigned{date.month()});
+    put(6, year_number / 100 % 100);
+    put(8, year_number % 100);
     return text;
 }
 
