@@ -111,8 +111,9 @@ void Seigneur_Mois(Program& program) {
     bool const shows_29th = is_leap_day(consultation.birth.date_naissance());
     int cell = consultation.colonne_age;
     for (auto const& name : periods.noms_mois) {
-        form.Label_mois(cell).Visible = true;
-        form.Label_mois(cell).Caption = name;
+        auto& month = form.Label_mois(cell);
+        month.Visible = true;
+        month.Caption = name;
         if (first_day) {
             std::string date = write_date(add_months(*first_day, periods.pas_mois));
             if (shows_29th) date = fevrier29(std::move(date));
