@@ -105,19 +105,28 @@ QSize Pictures::file_size(QString const& path) {
     return size.isEmpty() || decoded(path, thumb).isNull() ? QSize{} : size;
 }
 
+namespace {
+
+QPixmap drawn(DrawnPicture const* picture, QSize size) {
+    if (picture != nullptr) {
+        QImage ahead = picture->drawn_ahead(size);
+        if (!ahead.isNull()) return QPixmap::fromImage(std::move(ahead));
+    }
+    QPixmap pixmap{size};
+    pixmap.fill(Qt::transparent);
+    QPainter painter{&pixmap};
+    if (picture != nullptr) picture->draw(painter, QRectF{QPointF{}, QSizeF{size}});
+    return pixmap;
+}
+
+}  // namespace
+
 QPixmap Pictures::pixmap(std::string const& name, QSize size, double device_pixel_ratio) {
     QSize const real = (QSizeF{size} * device_pixel_ratio).toSize();
     std::string const key =
         name + ":" + std::to_string(real.width()) + "x" + std::to_string(real.height());
     auto& known = m_pixmaps[key];
-    if (known.isNull()) {
-        known = QPixmap{real};
-        known.fill(Qt::transparent);
-        QPainter painter{&known};
-        if (auto const* const meant = picture(name)) {
-            meant->draw(painter, QRectF{QPointF{}, QSizeF{real}});
-        }
-    }
+    if (known.isNull()) known = drawn(picture(name), real);
     known.setDevicePixelRatio(device_pixel_ratio);
     return known;
 }
