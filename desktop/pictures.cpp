@@ -132,10 +132,13 @@ QPixmap Pictures::pixmap(std::string const& name, QSize size, double device_pixe
 }
 
 QCursor Pictures::hand_cursor(std::string const& name, double device_pixel_ratio) {
+    auto& known = m_hands[{name, device_pixel_ratio}];
+    if (known) return *known;
     QSize const size = natural_size(name);
-    if (size.isEmpty()) return Qt::PointingHandCursor;
-    return QCursor{pixmap(name, size, device_pixel_ratio), hand_hot_spot.x(),
-                   hand_hot_spot.y()};
+    known = size.isEmpty() ? QCursor{Qt::PointingHandCursor}
+                           : QCursor{pixmap(name, size, device_pixel_ratio), hand_hot_spot.x(),
+                                     hand_hot_spot.y()};
+    return *known;
 }
 
 }  // namespace navarun::desktop
