@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/date_parts.h"
 #include "core/text.h"
 
 namespace navarun {
@@ -41,6 +42,15 @@ YearMonthDay clipped(std::chrono::year_month in_month, day wanted) {
     return in_month / std::min(wanted, last.day());
 }
 
+std::optional<YearMonthDay> parts_of(int day_number, int month_number, int year_number) {
+    if (day_number < 1 || day_number > 31 || month_number < 1 || month_number > 12 ||
+        year_number < 1 || year_number > 9999) {
+        return {};
+    }
+    return clipped(year{year_number} / month{static_cast<unsigned>(month_number)},
+                   day{static_cast<unsigned>(day_number)});
+}
+
 // "00" to "99": a generation writes a hundred of these pairs.
 using TwoDigits = std::array<char, 2>;
 constexpr auto two_digits = [] {
@@ -53,7 +63,7 @@ constexpr auto two_digits = [] {
 
 // The dates that the program wrote itself, which are nearly all that it reads: two, two and
 // four digits. Empty for any other wording.
-std::optional<Date> read_as_written(std::string_view text) {
+std::optional<YearMonthDay> read_as_written(std::string_view text) {
     if (text.size() != 10 || text[2] != '/' || text[5] != '/') return {};
     std::array<int, 10> digits{};
     for (std::size_t const at : {0U, 1U, 3U, 4U, 6U, 7U, 8U, 9U}) {
@@ -61,21 +71,25 @@ std::optional<Date> read_as_written(std::string_view text) {
         if (digits[at] < 0 || digits[at] > 9) return {};
     }
     auto const pair = [&](std::size_t at) { return 10 * digits[at] + digits[at + 1]; };
-    return date_of(pair(0), pair(3), 100 * pair(6) + pair(8));
+    return parts_of(pair(0), pair(3), 100 * pair(6) + pair(8));
+}
+
+std::optional<Date> serial_of(std::optional<YearMonthDay> const& date) {
+    if (!date) return {};
+    return Date{*date};
 }
 
 }  // namespace
 
 std::optional<Date> date_of(int day_number, int month_number, int year_number) {
-    if (day_number < 1 || day_number > 31 || month_number < 1 || month_number > 12 ||
-        year_number < 1 || year_number > 9999) {
-        return {};
-    }
-    return clipped(year{year_number} / month{static_cast<unsigned>(month_number)},
-                   day{static_cast<unsigned>(day_number)});
+    return serial_of(parts_of(day_number, month_number, year_number));
 }
 
 std::optional<Date> read_date(std::string_view text) {
+    return serial_of(read_date_parts(text));
+}
+
+std::optional<YearMonthDay> read_date_parts(std::string_view text) {
     if (auto const date = read_as_written(text)) return date;
     auto const first = text.find('/');
     if (first == std::string_view::npos) return {};
@@ -85,8 +99,8 @@ std::optional<Date> read_date(std::string_view text) {
     auto const month_text =
         without_blanks_at(text.substr(first + 1, second - first - 1), true, true);
     auto const year_text = without_blanks_at(text.substr(second + 1), true, false);
-    return date_of(read_field(day_text, 2), read_field(month_text, 2),
-                   read_field(year_text, 4));
+    return parts_of(read_field(day_text, 2), read_field(month_text, 2),
+                    read_field(year_text, 4));
 }
 
 std::string write_date(Date date) { return write_date(YearMonthDay{date}); }

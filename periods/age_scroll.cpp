@@ -4,6 +4,7 @@
 #include <optional>
 #include <utility>
 
+#include "core/date_parts.h"
 #include "core/generate.h"
 #include "core/text.h"
 #include "periods/lal_kitab.h"
@@ -79,7 +80,7 @@ void HScroll_age_change(Program& program) {
     program.periods.age_scroll = age;
     consultation.age_courant = age;
     birth.rebuild_date_naissance();
-    if (std::optional<YearMonthDay> const date{read_date(birth.date_naissance())}) {
+    if (auto const date = read_date_parts(birth.date_naissance())) {
         form.Label_anneedefile.Caption = write_date(add_years(*date, age));
         follow_first_day(program);
     }
