@@ -2,7 +2,9 @@
 #include "core/calendar.h"
 
 #include <algorithm>
+#include <array>
 
+#include "core/date_parts.h"
 #include "core/text.h"
 
 namespace navarun {
@@ -33,28 +35,14 @@ int read_field(std::string_view text, std::size_t digits) {
 }
 
 YearMonthDay clipped(std::chrono::year_month in_month, day wanted) {
+    // A day that every month has.
+    if (wanted <= day{28}) return in_month / wanted;
     auto const last = std::chrono::year_month_day_last{
         in_month.year(), std::chrono::month_day_last{in_month.month()}};
     return in_month / std::min(wanted, last.day());
 }
 
-void put_digits(std::string& text, std::size_t at, std::size_t count, int number) {
-    for (std::size_t i = count; i-- > 0; number /= 10) {
-        text[at + i] = static_cast<char>('0' + number % 10);
-    }
-}
-
-// The dates that the program wrote itself, which are nearly all that it reads: two, two and
-// four digits. Empty for any other wording.
-std::optional<Date> read_as_written(std::string_view text) {
-    if (text.size() != 10 || text[2] != '/' || text[5] != '/') return {};
-    return date_of(read_field(text.substr(0, 2), 2), read_field(text.substr(3, 2), 2),
-                   read_field(text.substr(6), 4));
-}
-
-}  // namespace
-
-std::optional<Date> date_of(int day_number, int month_number, int year_number) {
+std::optional<YearMonthDay> parts_of(int day_number, int month_number, int year_number) {
     if (day_number < 1 || day_number > 31 || month_number < 1 || month_number > 12 ||
         year_number < 1 || year_number > 9999) {
         return {};
@@ -63,7 +51,45 @@ std::optional<Date> date_of(int day_number, int month_number, int year_number) {
                    day{static_cast<unsigned>(day_number)});
 }
 
+// "00" to "99": a generation writes a hundred of these pairs.
+using TwoDigits = std::array<char, 2>;
+constexpr auto two_digits = [] {
+    std::array<TwoDigits, 100> all{};
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        all[i] = {static_cast<char>('0' + i / 10), static_cast<char>('0' + i % 10)};
+    }
+    return all;
+}();
+
+// The dates that the program wrote itself, which are nearly all that it reads: two, two and
+// four digits. Empty for any other wording.
+std::optional<YearMonthDay> read_as_written(std::string_view text) {
+    if (text.size() != 10 || text[2] != '/' || text[5] != '/') return {};
+    std::array<int, 10> digits{};
+    for (std::size_t const at : {0U, 1U, 3U, 4U, 6U, 7U, 8U, 9U}) {
+        digits[at] = text[at] - '0';
+        if (digits[at] < 0 || digits[at] > 9) return {};
+    }
+    auto const pair = [&](std::size_t at) { return 10 * digits[at] + digits[at + 1]; };
+    return parts_of(pair(0), pair(3), 100 * pair(6) + pair(8));
+}
+
+std::optional<Date> serial_of(std::optional<YearMonthDay> const& date) {
+    if (!date) return {};
+    return Date{*date};
+}
+
+}  // namespace
+
+std::optional<Date> date_of(int day_number, int month_number, int year_number) {
+    return serial_of(parts_of(day_number, month_number, year_number));
+}
+
 std::optional<Date> read_date(std::string_view text) {
+    return serial_of(read_date_parts(text));
+}
+
+std::optional<YearMonthDay> read_date_parts(std::string_view text) {
     if (auto const date = read_as_written(text)) return date;
     auto const first = text.find('/');
     if (first == std::string_view::npos) return {};
@@ -73,17 +99,22 @@ std::optional<Date> read_date(std::string_view text) {
     auto const month_text =
         without_blanks_at(text.substr(first + 1, second - first - 1), true, true);
     auto const year_text = without_blanks_at(text.substr(second + 1), true, false);
-    return date_of(read_field(day_text, 2), read_field(month_text, 2),
-                   read_field(year_text, 4));
+    return parts_of(read_field(day_text, 2), read_field(month_text, 2),
+                    read_field(year_text, 4));
 }
 
 std::string write_date(Date date) { return write_date(YearMonthDay{date}); }
 
 std::string write_date(YearMonthDay date) {
     std::string text = "00/00/0000";
-    put_digits(text, 0, 2, static_cast<int>(unsigned{date.day()}));
-    put_digits(text, 3, 2, static_cast<int>(unsigned{date.month()}));
-    put_digits(text, 6, 4, int{date.year()});
+    auto const put = [&text](std::size_t at, unsigned number) {
+        std::ranges::copy(two_digits[number], &text[at]);
+    };
+    auto const year_number = static_cast<unsigned>(int{date.year()});
+    put(0, unsigned{date.day()});
+    put(3, unsigned{date.month()});
+    put(6, year_number / 100 % 100);
+    put(8, year_number % 100);
     return text;
 }
 

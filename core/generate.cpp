@@ -40,16 +40,19 @@ void generate(Program& program) {
 void cycle(Program& program) {
     auto& form = program.form1;
     for (int i = 1; i <= 12; ++i) {
+        auto& palace = form.Label_Solaire(i);
+        auto& period = form.Label_Dasha(i);
+        auto& month = form.Label_mois(i);
         form.Label_annee(i).Caption = "";
-        form.Label_Solaire(i).Visible = false;
+        palace.Visible = false;
         // The literal 1 in all twelve; Position_solaire gives each its number afterwards.
-        form.Label_Solaire(i).Caption = "1";
-        form.Label_Dasha(i).ForeColor = standard_colour(6);
+        palace.Caption = "1";
+        period.ForeColor = standard_colour(6);
         form.Label_DashaDate(i).ForeColor = standard_colour(6);
-        form.Label_mois(i).ForeColor = standard_colour(6);
+        month.ForeColor = standard_colour(6);
         form.Label_MoisDate(i).ForeColor = screen::grey;
-        form.Label_Dasha(i).FontBold = false;
-        form.Label_mois(i).FontBold = false;
+        period.FontBold = false;
+        month.FontBold = false;
     }
     change_couleurAge(program, "vert");
 }

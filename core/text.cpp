@@ -25,8 +25,11 @@ constexpr bool small_letter_of_latin_1(char32_t c) {
     return c >= 0xE0 && c <= 0xFE && c != 0xF7;  // 0xF7 is the division sign
 }
 
+// Nearly every character: no table needs to be asked about it.
+constexpr bool is_ascii(char32_t c) { return c < 0x80; }
+
 char32_t upper(char32_t c) {
-    if (c >= U'a' && c <= U'z') return c - 32;
+    if (is_ascii(c)) return c >= U'a' && c <= U'z' ? c - 32 : c;
     if (small_letter_of_latin_1(c)) return c - 32;
     for (auto const& [small, capital] : odd_pairs) {
         if (c == small) return capital;
@@ -35,7 +38,7 @@ char32_t upper(char32_t c) {
 }
 
 char32_t lower(char32_t c) {
-    if (c >= U'A' && c <= U'Z') return c + 32;
+    if (is_ascii(c)) return c >= U'A' && c <= U'Z' ? c + 32 : c;
     if (small_letter_of_latin_1(c + 32) && c >= 0xC0) return c + 32;
     for (auto const& [small, capital] : odd_pairs) {
         if (c == capital) return small;
@@ -45,7 +48,7 @@ char32_t lower(char32_t c) {
 
 void append(std::string& text, char32_t c) {
     auto const byte = [&](char32_t value) { text.push_back(static_cast<char>(value)); };
-    if (c < 0x80) {
+    if (is_ascii(c)) {
         byte(c);
     } else if (c < 0x800) {
         byte(0xC0 | (c >> 6));
@@ -62,14 +65,10 @@ void append(std::string& text, char32_t c) {
     }
 }
 
-// The character at the front of `rest`, which it is taken off.
-char32_t take_character(std::string_view& rest) {
+// As take_character(), where it is of several bytes or none at all.
+char32_t take_long_character(std::string_view& rest) {
     auto const byte_at = [&](std::size_t i) { return static_cast<unsigned char>(rest[i]); };
     unsigned char const lead = byte_at(0);
-    if (lead < 0x80) {
-        rest.remove_prefix(1);
-        return lead;
-    }
     std::size_t bytes = 0;
     char32_t c = 0;
     char32_t least = 0;  // what a sequence of this length must reach
@@ -95,6 +94,14 @@ char32_t take_character(std::string_view& rest) {
     }
     rest.remove_prefix(bytes);
     return c;
+}
+
+// The character at the front of `rest`, which it is taken off.
+char32_t take_character(std::string_view& rest) {
+    auto const lead = static_cast<unsigned char>(rest.front());
+    if (!is_ascii(lead)) return take_long_character(rest);
+    rest.remove_prefix(1);
+    return lead;
 }
 
 template <typename Change>

@@ -1,8 +1,10 @@
 // One picture of the program, as it is drawn. In two forms: from its vectors, or, where the
-// toolkit comes without the module that reads them, from what the build made of these.
+// toolkit comes without the module that reads them, from what the build made of these. Either
+// has at hand, as images, the sizes that most screens ask for.
 #pragma once
 
 #include <QIcon>
+#include <QImage>
 #include <QPainter>
 #include <QRectF>
 #include <QSize>
@@ -23,6 +25,8 @@ class DrawnPicture {
     QSize natural_size() const;
     /// Draws it into `place`, as fine as the painter's device shows it.
     void draw(QPainter& painter, QRectF const& place) const;
+    /// The picture at exactly `size` where the build has drawn it so; null elsewhere.
+    QImage drawn_ahead(QSize size) const;
 
   private:
     struct Content;

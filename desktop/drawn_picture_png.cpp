@@ -61,6 +61,14 @@ void DrawnPicture::draw(QPainter& painter, QRectF const& place) const {
     }
 }
 
+QImage DrawnPicture::drawn_ahead(QSize size) const {
+    if (!m_content) return {};
+    for (auto const& image : m_content->images) {
+        if (image.size() == size) return image;
+    }
+    return {};
+}
+
 QIcon icon_of(QString const& name) {
     QIcon icon;
     for (auto const* scale : scales) {

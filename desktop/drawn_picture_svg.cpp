@@ -1,40 +1,79 @@
-// Pictures from their vectors.
+// Pictures from their vectors. A start would be half reading and drawing them: what most
+// screens show is at hand as an image, and the vectors are read where another size, or paper,
+// asks.
 #include <QFile>
+#include <QResource>
 #include <QSvgRenderer>
 
+#include "desktop/ahead_image.h"
 #include "desktop/drawn_picture.h"
 
 namespace navarun::desktop {
 
 namespace {
 
-QString resource_of(QString const& name) {
+QString vectors_of(QString const& name) {
     return QStringLiteral(":/pictures/%1.svg").arg(name);
+}
+
+// Null where the build has not drawn the picture at that scale.
+QImage image_ahead(QString const& name, char const* scale) {
+    return ahead_image(
+        QResource{QStringLiteral(":/ahead/%1@%2").arg(name, QLatin1String{scale})}
+            .uncompressedData());
 }
 
 }  // namespace
 
 struct DrawnPicture::Content {
-    QSvgRenderer vectors;
+    explicit Content(QString name_) : name{std::move(name_)} {}
+
+    QSvgRenderer& vectors() {
+        if (!m_vectors) m_vectors = std::make_unique<QSvgRenderer>(vectors_of(name));
+        return *m_vectors;
+    }
+
+    QString name;
+    QSize natural_size;
+    QImage at_natural_size;  // null where the build has not drawn it
+
+  private:
+    std::unique_ptr<QSvgRenderer> m_vectors;  // once read
 };
 
 DrawnPicture::DrawnPicture(QString const& name) {
-    QString const resource = resource_of(name);
-    if (!QFile::exists(resource)) return;
-    m_content = std::make_unique<Content>();
-    if (!m_content->vectors.load(resource)) m_content.reset();
+    if (!QFile::exists(vectors_of(name))) return;
+    m_content = std::make_unique<Content>(name);
+    m_content->at_natural_size = image_ahead(name, "1");
+    m_content->natural_size = m_content->at_natural_size.isNull()
+                                  ? m_content->vectors().defaultSize()
+                                  : m_content->at_natural_size.size();
+    if (natural_size().isEmpty()) m_content.reset();
 }
 
 DrawnPicture::~DrawnPicture() = default;
 
 QSize DrawnPicture::natural_size() const {
-    return m_content ? m_content->vectors.defaultSize() : QSize{};
+    return m_content ? m_content->natural_size : QSize{};
 }
 
 void DrawnPicture::draw(QPainter& painter, QRectF const& place) const {
-    if (m_content) m_content->vectors.render(&painter, place);
+    if (m_content) m_content->vectors().render(&painter, place);
 }
 
-QIcon icon_of(QString const& name) { return QIcon{resource_of(name)}; }
+QImage DrawnPicture::drawn_ahead(QSize size) const {
+    if (!m_content) return {};
+    if (size == natural_size()) return m_content->at_natural_size;
+    if (size == natural_size() * 2) return image_ahead(m_content->name, "2");
+    return {};
+}
+
+QIcon icon_of(QString const& name) {
+    QIcon icon;
+    for (auto const* scale : {"0.125", "0.25", "0.5", "1"}) {
+        icon.addPixmap(QPixmap::fromImage(image_ahead(name, scale)));
+    }
+    return icon;
+}
 
 }  // namespace navarun::desktop

@@ -59,8 +59,27 @@ void FormWindow::make_views() {
             container == nullptr ? m_canvas : m_views.at(container)->widget();
         auto view = make_view(m_session, *placed, *parent);
         view->widget()->setObjectName(to_qt(placed->full_name()));
-        view->refresh();
+        if (placed->is_shown()) {
+            view->refresh();
+        } else {
+            // Its fonts would be loaded for nobody's eyes.
+            if (!placed->Visible) view->widget()->hide();
+            m_unseen.insert(placed);
+        }
         m_views[placed] = std::move(view);
+    }
+}
+
+// One by one: what is filled may let another event in, which comes back here.
+void FormWindow::fill_what_came_up() {
+    auto const next = [this] {
+        return std::ranges::find_if(
+            m_unseen, [](screen::Control const* control) { return control->is_shown(); });
+    };
+    for (auto found = next(); found != m_unseen.end(); found = next()) {
+        auto& view = *m_views.at(*found);
+        m_unseen.erase(found);
+        view.refresh();
     }
 }
 
@@ -309,7 +328,10 @@ void FormWindow::show_control(screen::Control const& control) {
         return;
     }
     auto const view = m_views.find(&control);
-    if (view != m_views.end()) view->second->refresh();
+    if (view == m_views.end()) return;
+    // Before it shows, so that nothing half made is seen on it.
+    if (control.Visible) fill_what_came_up();
+    view->second->refresh();
 }
 
 void FormWindow::show_focus(screen::Control const& control) {

@@ -6,6 +6,7 @@
 #include <QScrollArea>
 #include <map>
 #include <memory>
+#include <set>
 
 #include "desktop/control_view.h"
 #include "desktop/focus_ring.h"
@@ -48,6 +49,8 @@ class FormWindow : public QMainWindow {
 
   private:
     void make_views();
+    /// Fills what has been hidden since the window was made and no longer is.
+    void fill_what_came_up();
     void make_timers();
     void make_shortcuts();
     void make_tab_order();
@@ -67,6 +70,7 @@ class FormWindow : public QMainWindow {
     QScrollArea* m_area;
     FocusRing* m_ring;
     std::map<screen::Control const*, std::unique_ptr<ControlView>> m_views;
+    std::set<screen::Control const*> m_unseen;  // not yet filled, as nobody could see it
     Menus m_menus;
     TabWalk m_walk;
     // Which control had the focus when the keyboard came to a stop of the desktop's own.

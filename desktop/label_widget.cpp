@@ -39,7 +39,8 @@ void LabelWidget::set_look(Look look) {
 }
 
 QRect LabelWidget::grown(QRect const& box, Look const& look) {
-    if (!look.centred || look.opaque || wraps(box, look.font)) return box;
+    if (!look.centred || look.opaque || look.text.isEmpty()) return box;
+    if (wraps(box, look.font)) return box;
     int const needed =
         static_cast<int>(std::ceil(QFontMetricsF{look.font}.horizontalAdvance(look.text))) + 2;
     int const more = needed - box.width();

@@ -1,5 +1,7 @@
 // The program on the desktop.
 #include <QApplication>
+#include <QFontDatabase>
+#include <future>
 
 #include "desktop/application.h"
 #include "desktop/session.h"
@@ -13,6 +15,9 @@ int main(int argc, char** argv) {
     }
     auto const folder = navarun::desktop::application_folder(argv[0]);
     QApplication application{argc, argv};
+    // Reading the system's list of fonts takes as long as all else before the window is made:
+    // it goes on meanwhile, and who first asks for a font waits for its end.
+    auto const fonts = std::async(std::launch::async, [] { QFontDatabase::families(); });
     // Windows that close do not end the program: its own question does.
     QApplication::setQuitOnLastWindowClosed(false);
     navarun::desktop::set_up(application);

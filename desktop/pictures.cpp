@@ -120,28 +120,40 @@ QSize Pictures::file_size(QString const& path) {
     return m_glance->image.isNull() ? QSize{} : size;
 }
 
+namespace {
+
+QPixmap drawn(DrawnPicture const* picture, QSize size) {
+    if (picture != nullptr) {
+        QImage ahead = picture->drawn_ahead(size);
+        if (!ahead.isNull()) return QPixmap::fromImage(std::move(ahead));
+    }
+    QPixmap pixmap{size};
+    pixmap.fill(Qt::transparent);
+    QPainter painter{&pixmap};
+    if (picture != nullptr) picture->draw(painter, QRectF{QPointF{}, QSizeF{size}});
+    return pixmap;
+}
+
+}  // namespace
+
 QPixmap Pictures::pixmap(std::string const& name, QSize size, double device_pixel_ratio) {
     QSize const real = (QSizeF{size} * device_pixel_ratio).toSize();
     std::string const key =
         name + ":" + std::to_string(real.width()) + "x" + std::to_string(real.height());
     auto& known = m_pixmaps[key];
-    if (known.isNull()) {
-        known = QPixmap{real};
-        known.fill(Qt::transparent);
-        QPainter painter{&known};
-        if (auto const* const meant = picture(name)) {
-            meant->draw(painter, QRectF{QPointF{}, QSizeF{real}});
-        }
-    }
+    if (known.isNull()) known = drawn(picture(name), real);
     known.setDevicePixelRatio(device_pixel_ratio);
     return known;
 }
 
 QCursor Pictures::hand_cursor(std::string const& name, double device_pixel_ratio) {
+    auto& known = m_hands[{name, device_pixel_ratio}];
+    if (known) return *known;
     QSize const size = natural_size(name);
-    if (size.isEmpty()) return Qt::PointingHandCursor;
-    return QCursor{pixmap(name, size, device_pixel_ratio), hand_hot_spot.x(),
-                   hand_hot_spot.y()};
+    known = size.isEmpty() ? QCursor{Qt::PointingHandCursor}
+                           : QCursor{pixmap(name, size, device_pixel_ratio), hand_hot_spot.x(),
+                                     hand_hot_spot.y()};
+    return *known;
 }
 
 }  // namespace navarun::desktop

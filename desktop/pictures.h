@@ -12,6 +12,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "desktop/drawn_picture.h"
 #include "shell/screen/control.h"
@@ -42,6 +43,8 @@ class Pictures {
 
     std::map<std::string, std::unique_ptr<DrawnPicture>> m_pictures;
     std::map<std::string, QPixmap> m_pixmaps;  // by name and real size
+    // By name and ratio. Half the labels can be clicked: they share one.
+    std::map<std::pair<std::string, double>, std::optional<QCursor>> m_hands;
     struct DecodedFile {
         std::string path;
         QDateTime written;  // a file may be replaced under its name

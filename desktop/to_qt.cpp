@@ -53,9 +53,11 @@ QString installed_family(QString const& name) {
     // Kept there in a few sizes of dots; its successor has the same widths in outlines.
     if (name == QLatin1String("MS Sans Serif")) return QStringLiteral("Microsoft Sans Serif");
 #endif
-    if (QFontDatabase::hasFamily(name)) return name;
+    // All at once: the question for a single one is worked out by the rules of the system.
+    static QStringList const installed = QFontDatabase::families();
+    if (installed.contains(name, Qt::CaseInsensitive)) return name;
     for (auto const& stand_in : QFont::substitutes(name)) {
-        if (QFontDatabase::hasFamily(stand_in)) return stand_in;
+        if (installed.contains(stand_in, Qt::CaseInsensitive)) return stand_in;
     }
     return {};
 }

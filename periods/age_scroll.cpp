@@ -4,6 +4,7 @@
 #include <optional>
 #include <utility>
 
+#include "core/date_parts.h"
 #include "core/generate.h"
 #include "core/text.h"
 #include "periods/lal_kitab.h"
@@ -44,6 +45,21 @@ void show_state(Program& program, GridState const& state) {
     form.Label_age.BackColor = state.age_back;
 }
 
+void grid_becomes_true(Program& program) {
+    auto& tag = program.form1.HScroll_age.Tag;
+    if (tag.get() == stale_grid.tag) show_state(program, true_grid);
+    tag = true_grid.tag;
+}
+
+void grid_becomes_stale(Program& program) {
+    auto& tag = program.form1.HScroll_age.Tag;
+    if (tag.get() == true_grid.tag) {
+        close_destiny_palace(program);
+        show_state(program, stale_grid);
+    }
+    tag = stale_grid.tag;
+}
+
 // The last day of the cycle year shown, from its first day.
 void follow_first_day(Program& program) {
     auto& form = program.form1;
@@ -64,13 +80,13 @@ void HScroll_age_change(Program& program) {
     program.periods.age_scroll = age;
     consultation.age_courant = age;
     birth.rebuild_date_naissance();
-    if (std::optional<YearMonthDay> const date{read_date(birth.date_naissance())}) {
+    if (auto const date = read_date_parts(birth.date_naissance())) {
         form.Label_anneedefile.Caption = write_date(add_years(*date, age));
         follow_first_day(program);
     }
     birth.rebuild_jour_mois_anniv();
     defile_MahaDasha(program);
-    change_couleurAge(program, "Rouge");
+    grid_becomes_stale(program);
     form.Label_age.Caption = std::to_string(age);
 }
 
@@ -95,15 +111,13 @@ void defile_MahaDasha(Program& program) {
 }
 
 void change_couleurAge(Program& program, std::string_view state) {
-    auto& tag = program.form1.HScroll_age.Tag;
-    std::string wanted = text::upper(state);
-    if (wanted == true_grid.tag && tag.get() == stale_grid.tag) {
-        show_state(program, true_grid);
-    } else if (wanted == stale_grid.tag && tag.get() == true_grid.tag) {
-        close_destiny_palace(program);
-        show_state(program, stale_grid);
+    if (text::equal_ignoring_case(state, true_grid.tag)) {
+        grid_becomes_true(program);
+    } else if (text::equal_ignoring_case(state, stale_grid.tag)) {
+        grid_becomes_stale(program);
+    } else {
+        program.form1.HScroll_age.Tag = text::upper(state);
     }
-    tag = std::move(wanted);
 }
 
 void recalculate_for_age(Program& program) {

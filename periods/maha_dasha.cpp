@@ -4,6 +4,7 @@
 #include <optional>
 #include <utility>
 
+#include "core/date_parts.h"
 #include "core/text.h"
 #include "periods/current_period.h"
 #include "periods/cycle_lords.h"
@@ -31,7 +32,7 @@ void run_sequence(Program& program, int column, DashaStep const& step) {
 
     auto& start_text = consultation.date_annee_courante;
     if (repairs_leap_days(column) && is_leap_day(start_text)) start_text.replace(0, 2, "28");
-    std::optional<YearMonthDay> const start{read_date(start_text)};
+    auto const start = read_date_parts(start_text);
     auto const name = program.name_of_lord(periods.seigneur_dasha);
     bool const shows_29th =
         repairs_leap_days(column) && is_leap_day(consultation.birth.date_naissance());

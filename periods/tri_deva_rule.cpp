@@ -13,6 +13,7 @@ TriDeva find_tri_deva(std::string_view period_lord, std::string_view year_lord,
         // the kind "T", and the kind "C" waits in the report.
         found.kind = year_lord == "GURU" || year_lord == "SHUKRA" ? "C" : "T";
     }
+    found.cells.reserve(2);
     for (std::size_t i = 0; i < months.size(); ++i) {
         if (text::equal_ignoring_case(period_lord, months[i])) {
             found.cells.push_back(static_cast<int>(i) + 1);

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "core/date_parts.h"
 #include "core/text.h"
 #include "periods/cycle_lords.h"
 #include "periods/emphasis.h"
@@ -107,12 +108,13 @@ void Seigneur_Mois(Program& program) {
     }
 
     consultation.colonne_age = cell_of_age(consultation.palais_index, periods.age_scroll);
-    std::optional<YearMonthDay> const first_day{read_date(consultation.date_annee_courante)};
+    auto const first_day = read_date_parts(consultation.date_annee_courante);
     bool const shows_29th = is_leap_day(consultation.birth.date_naissance());
     int cell = consultation.colonne_age;
     for (auto const& name : periods.noms_mois) {
-        form.Label_mois(cell).Visible = true;
-        form.Label_mois(cell).Caption = name;
+        auto& month = form.Label_mois(cell);
+        month.Visible = true;
+        month.Caption = name;
         if (first_day) {
             std::string date = write_date(add_months(*first_day, periods.pas_mois));
             if (shows_29th) date = fevrier29(std::move(date));

@@ -1,6 +1,8 @@
 // The pictures: all there, drawn with what every renderer knows, and quiet under the texts.
+#include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
@@ -89,6 +91,30 @@ TEST(Pictures, OfAnotherNameAreNone) {
     desktop::Pictures pictures;
     EXPECT_TRUE(pictures.natural_size("Image_Kundali(4)").isEmpty());
     EXPECT_TRUE(pictures.natural_size("Label_Dasha").isEmpty());
+}
+
+// What a screen of one or two dots to the unit shows is not drawn at the start but by the
+// build.
+TEST(Pictures, DrawnAheadAreWhatTheirVectorsDraw) {
+    int ahead = 0;
+    for (auto const& file : QDir{QStringLiteral(":/pictures")}.entryList()) {
+        QString const name = QFileInfo{file}.completeBaseName();
+        desktop::DrawnPicture const picture{name};
+        for (int const scale : {1, 2}) {
+            QSize const size = picture.natural_size() * scale;
+            QImage const image = picture.drawn_ahead(size);
+            if (image.isNull()) continue;
+            ++ahead;
+            QImage drawn{size, QImage::Format_ARGB32_Premultiplied};
+            drawn.fill(Qt::transparent);
+            QPainter painter{&drawn};
+            picture.draw(painter, QRectF{QPointF{}, QSizeF{size}});
+            painter.end();
+            EXPECT_EQ(image.convertToFormat(drawn.format()), drawn) << name.toStdString();
+        }
+        EXPECT_TRUE(picture.drawn_ahead(picture.natural_size() * 1.25).isNull());
+    }
+    EXPECT_GE(ahead, 2 * 40);
 }
 
 class WindowPictures : public Window {};
