@@ -38,13 +38,11 @@ DelimitedReader::DelimitedReader(std::string bytes, std::string file)
 void DelimitedReader::close_value() {
     if (at_end()) return;
     char const closing = m_bytes[m_at];
-    if (closing == ',') {
+    if (closing == ',' || closing == '\n') {
         ++m_at;
     } else if (closing == '\r') {
         ++m_at;
         if (!at_end() && m_bytes[m_at] == '\n') ++m_at;
-    } else if (closing == '\n') {
-        ++m_at;
     }
 }
 

@@ -105,7 +105,7 @@ std::string one_blank_each(std::string_view text) {
 
 // By its caption, else by what its tool tip says.
 std::string own_words(Control const& control) {
-    auto const caption = one_blank_each(caption_of(control));
+    auto caption = one_blank_each(caption_of(control));
     auto const* const placed = dynamic_cast<screen::PlacedControl const*>(&control);
     if (!caption.empty() || placed == nullptr) return caption;
     return one_blank_each(placed->ToolTipText.get());
