@@ -156,7 +156,7 @@ class Day:
                 effects = self._ask(row.requests(self))
                 for effect in effects:
                     self._meet(effect)
-            self.windows.all()  # answered once the program is free again
+            self._wait_until_free()
             waited = time.monotonic() - done
             if not effects and waited > self.longest:
                 self.longest, self.longest_step = waited, row.told
@@ -166,6 +166,9 @@ class Day:
         except BaseException as error:
             self._fail(row, error)
             raise
+
+    def _wait_until_free(self):
+        self.windows.all()  # answered once the program is free again
 
     def _ask(self, requests):
         for request in requests:
