@@ -19,8 +19,8 @@ def day(clients, heap=lambda client: 0, pages=lambda client: 0, **others):
     noise = random.Random(7)
     return [
         Reading(
-            heap=18_000 * KB - (900 * KB if client == 0 else 0) + noise.randint(-200, 200) + heap(client),
-            own_memory=32_000 * KB + noise.randint(-10, 10) * 4 * KB + pages(client),
+            heap=14_000 * KB - (900 * KB if client == 0 else 0) + noise.randint(-40, 40) * KB + heap(client),
+            own_memory=18_000 * KB + noise.randint(-10, 10) * 4 * KB + pages(client),
             memory=70_000 * KB + noise.randint(-3000, 3000) * KB,
             **{
                 "descriptors": 22,
@@ -45,13 +45,13 @@ class Flatness(unittest.TestCase):
         for clients in (LONG, SHORT):
             self.assertEqual(list(complaints(day(clients))), [])
 
-    def test_a_small_object_kept_for_each_client(self):
-        for clients in (LONG, SHORT):
-            self.complains(day(clients, heap=lambda client: 4 * KB * client), "heap")
+    def test_an_object_kept_for_each_client(self):
+        for clients, size in ((LONG, 16 * KB), (SHORT, 96 * KB)):
+            self.complains(day(clients, heap=lambda client: size * client), "heap")
 
     def test_pages_written_anew_for_each_client(self):
-        for clients in (LONG, SHORT):
-            self.complains(day(clients, pages=lambda client: 400 * KB * client), "own_memory")
+        for clients, size in ((LONG, 200 * KB), (SHORT, 600 * KB)):
+            self.complains(day(clients, pages=lambda client: size * client), "own_memory")
 
     def test_what_is_kept_once_is_no_growth(self):
         once = day(LONG, heap=lambda client: 300 * KB if client >= 10 else 0)
