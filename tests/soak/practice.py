@@ -20,7 +20,7 @@ LAST_NAMES = ("Airelle", "Bouleau", "Acacia", "Bruyère", "Anis", "Bleuet", "Aub
 
 
 def fill(folder):
-    """Records of former days, an address and some portraits."""
+    """Records of former days and some portraits."""
     places = {name: os.path.join(folder, "RESSOURCES", name) for name in ("DATA1", "DATA2", "IMAGE")}
     for place in places.values():
         os.makedirs(place)
@@ -147,11 +147,7 @@ PREVIEW = [
 ]
 ADDRESSES = [
     click("Bouton_Internet", "opens the addresses"),
-    Row("writes an address", [("click", "Text_New_URL"), ("keys", "End"), ("type", "exemple.fr"), ("keys", "Return")],
-        [ask("set", "Text_New_URL", value="www.exemple.fr"), ask("key", "Text_New_URL", code=ENTER)]),
     double_click_entry("List_Internet", 0, "opens the first"),
-    entry("List_Internet", 1, "selects the new one"),
-    answered(click("Command_reset", "deletes it"), 1),
     click("Bouton_Internet", "closes the addresses"),
 ]
 
