@@ -19,7 +19,7 @@ virtual_display_packages=(
 )
 test_packages=(
     libgtest-dev libgmock-dev libbenchmark-dev libxcb1-dev
-    xvfb xdotool imagemagick openbox x11-utils
+    xvfb xdotool imagemagick openbox x11-utils xrestop
     lintian desktop-file-utils appstream groff libgtk-3-bin
     at-spi2-core gir1.2-atspi-2.0 python3-gi python3 dbus-daemon
     libfaketime x11-xkb-utils python3-numpy python3-pil qt6-gtk-platformtheme

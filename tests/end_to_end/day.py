@@ -74,8 +74,10 @@ class Day:
                 "if os.path.exists(file):\n"
                 "    shutil.copy(file, place)\n"
                 "else:\n"
-                '    with open(place + "/address", "w") as note:\n'
+                # It is looked for while this runs: there at once, or not yet.
+                '    with open(place + "/address.new", "w") as note:\n'
                 "        note.write(sys.argv[1])\n"
+                '    os.replace(place + "/address.new", place + "/address")\n'
             )
         os.chmod(opener, 0o755)
         self.folders = [os.path.join(self.desk.folder, place) for place in ("window", "pilot")]
@@ -95,20 +97,26 @@ class Day:
         self.process = self.desk.start(
             self._programs[0],
             self.folders[0],
-            LD_PRELOAD=FAKETIME,
-            FAKETIME=f"{DATE[1]} {TIME}",
             DONT_FAKE_MONOTONIC="1",
             NO_FAKE_STAT="1",
             PATH=os.path.dirname(opener) + ":" + os.environ["PATH"],
+            **self._around_the_program(),
         )
         self.windows = Windows(self.process)
         wait_for(lambda: self.windows.app, "the program among those that can be spoken")
         wait_for(lambda: self.desk.windows("N.A.V.A.R.U.N"), "the window")
-        self.hand, self.seen = Hand(self.desk, self.windows), Seen()
+        self.hand, self.seen = self._hand_of(Hand), Seen()
         self._look_at_pilot()
         self.hand.rest()
         self.pilot.effects()
         self._compare(Row("starts the program", []), [])
+
+    def _hand_of(self, kind):
+        return kind(self.desk, self.windows)
+
+    def _around_the_program(self):
+        """More of the environment in which the program is started: its clock."""
+        return {"LD_PRELOAD": FAKETIME, "FAKETIME": f"{DATE[1]} {TIME}"}
 
     def _look_at_pilot(self):
         from model import Form
@@ -146,7 +154,7 @@ class Day:
                 effects = self._ask(row.requests(self))
                 for effect in effects:
                     self._meet(effect)
-            self.windows.all()  # answered once the program is free again
+            self._wait_until_free()
             waited = time.monotonic() - done
             if not effects and waited > self.longest:
                 self.longest, self.longest_step = waited, row.told
@@ -156,6 +164,9 @@ class Day:
         except BaseException as error:
             self._fail(row, error)
             raise
+
+    def _wait_until_free(self):
+        self.windows.all()  # answered once the program is free again
 
     def _ask(self, requests):
         for request in requests:

@@ -61,8 +61,10 @@ class Pilot:
             raise Refused(f"{request}: {answer}")
         return answer
 
-    def set_clock(self):
-        """What was waited in the pilot is no time here: the clock is put back."""
+    def set_clock(self, **clock):
+        """What was waited in the pilot is no time here: the clock is put back, or to another
+        date and time."""
+        self._clock.update(clock)
         self.ask(self._clock)
 
     def value(self, name):
@@ -71,13 +73,14 @@ class Pilot:
     def effects(self):
         return self.ask({"op": "effects"})["effects"]
 
+    def form(self, form):
+        """One form: its own values and those of its controls, in stacking order."""
+        names = [f"{form}.{name}" for name in ("Visible", "Caption", "BackColor", "Width", "Height")]
+        values = self.ask({"op": "get", "names": names})["values"]
+        own = {name.split(".")[1]: value for name, value in values.items()}
+        controls = self.ask({"op": "dump", "form": form})["controls"]
+        return own, {name.removeprefix(form + "."): of for name, of in controls.items()}
+
     def screen(self):
-        """All forms: name, own values and those of their controls, in stacking order."""
-        found = {}
-        for form in FORMS:
-            names = [f"{form}.{name}" for name in ("Visible", "Caption", "BackColor", "Width", "Height")]
-            values = self.ask({"op": "get", "names": names})["values"]
-            own = {name.split(".")[1]: value for name, value in values.items()}
-            controls = self.ask({"op": "dump", "form": form})["controls"]
-            found[form] = (own, {name.removeprefix(form + "."): of for name, of in controls.items()})
-        return found
+        """All forms by their names."""
+        return {form: self.form(form) for form in FORMS}

@@ -35,41 +35,6 @@ PERSONALITY = [
 ]
 
 
-def printer_dialog(day, file):
-    """The printer dialog, for a desk with no printer: into a file. Told as an act of the hands."""
-
-    def print_to_file():
-        from window import children, has, STATE, text_of, walk
-
-        window = wait_for(
-            lambda: next((w for w, role, name, _ in day.windows.all() if "Imprim" in name and role == "dialog"), None),
-            "the printer dialog",
-        )
-        field = wait_for(
-            lambda: next(
-                (node for node in walk(window)
-                 if node.get_role_name() == "text" and has(node, STATE.SHOWING)
-                 and has(node, STATE.EDITABLE) and ".pdf" in text_of(node)),
-                None,
-            ),
-            "the file's name in the printer dialog",
-        )
-        from window import extents
-
-        x, y, width, height = extents(field)
-        day.hand.do(("click on screen", x + width // 2, y + height // 2))
-        day.hand.do(("keys", "ctrl+a"))
-        day.hand.do(("type", file))
-        day.hand.do(("button", window.get_name(), "Imprimer"))
-        return True
-
-    return Row(
-        "prints the page into a file",
-        [("menu", "MnuImprime"), ("wait", print_to_file, "the page printed")],
-        [{"op": "answer", "value": 1}, ask("click", "MnuImprime")],
-    )
-
-
 def rows(day):
     yield from PREVIEW
     yield menu("MnuApercu_Impression", "closes the preview")

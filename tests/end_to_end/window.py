@@ -64,6 +64,10 @@ class Windows:
             for child in children(desktop):
                 if child.get_process_id() == self._process.pid:
                     self._app = child
+                    # The library has asked the program for all that it knows already; while it
+                    # takes that answer in, it must not have to ask again, for it would wait for
+                    # ever. What is asked of the program now is answered later than that.
+                    child.get_child_count()
                     # What was told a while ago is not what is there.
                     self._app.set_cache_mask(Atspi.Cache.NONE)
         return self._app
