@@ -47,7 +47,8 @@ FormWindow::FormWindow(Session& session, screen::Form& form)
                      [this](QWidget*, QWidget* to) { keyboard_moved(to); });
 }
 
-// The toolkit takes the keyboard from a window that goes, and tells so when its parts have gone.
+// The toolkit takes the keyboard from a window that goes, and tells so when its parts have
+// gone.
 FormWindow::~FormWindow() { QObject::disconnect(qApp, nullptr, this, nullptr); }
 
 void FormWindow::make_views() {

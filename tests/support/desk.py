@@ -15,6 +15,16 @@ import tempfile
 import time
 
 PATIENCE = 60  # seconds
+MAIN = "N.A.V.A.R.U.N"
+# The small windows by their titles, and the letters of the menus that open them.
+SMALL_WINDOWS = {
+    "Calendrier": ("alt+o", "a"),
+    "Périodes": ("alt+a", "a"),
+    "  PALAIS DU DESTIN": ("alt+a", "p"),
+    "Flêche": ("alt+o", "d"),
+    "Option Impression": ("alt+i", "a"),
+    "À propos de N.A.V.A.R.U.N": ("alt+m", "p"),
+}
 # Where Debian keeps the library that tells a program what time it is.
 FAKETIME = f"/usr/lib/{os.uname().machine}-linux-gnu/faketime/libfaketime.so.1"
 _PR_SET_PDEATHSIG = 1

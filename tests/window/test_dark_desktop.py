@@ -16,21 +16,12 @@ sys.path[:0] = [os.path.join(HERE, "../support"), os.path.join(HERE, "../end_to_
 import numpy
 from PIL import Image
 
-from desk import FAKETIME, Desk, wait_for
+from desk import FAKETIME, MAIN, SMALL_WINDOWS, Desk, wait_for
 from eye import Eye, region
 
-MAIN = "N.A.V.A.R.U.N"
 THEMES = {"light": "Adwaita", "dark": "Adwaita:dark"}
 # By the letters of the menus; what they open, and how it is closed.
-WINDOWS = {
-    "Calendrier": ("alt+o", "a"),
-    "Périodes": ("alt+a", "a"),
-    "  PALAIS DU DESTIN": ("alt+a", "p"),
-    "Flêche": ("alt+o", "d"),
-    "Option Impression": ("alt+i", "a"),
-    "À propos de N.A.V.A.R.U.N": ("alt+m", "p"),
-    "QUITTER": ("alt+m", "q"),
-}
+WINDOWS = {**SMALL_WINDOWS, "QUITTER": ("alt+m", "q")}
 MENUS = {"menu": "alt+m", "impression": "alt+i", "outils": "alt+o", "afficher": "alt+a", "apparence": "alt+p"}
 
 

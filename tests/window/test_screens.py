@@ -12,19 +12,9 @@ import os
 import sys
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "../support"))
-from desk import Desk, wait_for
+from desk import MAIN, SMALL_WINDOWS, Desk, wait_for
 
 DESIGNED = (801, 512)  # pixels at scale 1, without the menu bar
-MAIN = "N.A.V.A.R.U.N"
-# By the letters of the menus.
-SMALL_WINDOWS = {
-    "Calendrier": ("alt+o", "a"),
-    "Périodes": ("alt+a", "a"),
-    "  PALAIS DU DESTIN": ("alt+a", "p"),
-    "Flêche": ("alt+o", "d"),
-    "Option Impression": ("alt+i", "a"),
-    "À propos de N.A.V.A.R.U.N": ("alt+m", "p"),
-}
 
 
 def framed(desk, window):
