@@ -67,7 +67,7 @@ std::optional<CommandLine> text_editor() {
                                              QStringLiteral("text/plain")});
     if (query.waitForFinished()) {
         QString const entry = QString::fromUtf8(query.readAllStandardOutput()).trimmed();
-        if (auto const command = command_line_of_entry(entry)) return command;
+        if (auto command = command_line_of_entry(entry)) return command;
     }
     return first_installed(editors);
 }

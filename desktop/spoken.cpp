@@ -75,7 +75,7 @@ class NamedCombo : public QAccessibleWidget {
     QString text(QAccessible::Text what) const override {
         bool const written = m_combo.isEditable();
         if (what == QAccessible::Value) return m_combo.currentText();
-        QString const own = QAccessibleWidget::text(what);
+        QString own = QAccessibleWidget::text(what);
         if (what != QAccessible::Name || written || m_combo.currentText().isEmpty()) return own;
         // Nothing inside tells what is chosen.
         return own + QStringLiteral(": ") + m_combo.currentText();

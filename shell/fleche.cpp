@@ -2,6 +2,7 @@
 #include "shell/fleche.h"
 
 #include <array>
+#include <numeric>
 
 namespace navarun {
 
@@ -35,8 +36,8 @@ Design colour_design(int index) {
 }
 
 std::vector<int> sixteen() {
-    std::vector<int> indexes;
-    for (int i = 0; i < 16; ++i) indexes.push_back(i);
+    std::vector<int> indexes(16);
+    std::iota(indexes.begin(), indexes.end(), 0);
     return indexes;
 }
 
