@@ -177,14 +177,18 @@ void a_save(benchmark::State& state) {
     }
 }
 
+void write_and_flush(std::filesystem::path const& path) {
+    int const file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    auto const written = ::write(file, Practice::record.data(), Practice::record.size());
+    benchmark::DoNotOptimize(written);
+    ::fsync(file);
+    ::close(file);
+}
+
 void floor_of_a_save(benchmark::State& state) {
     auto const path = practice_of(state).data(1) / "Plancher.fcy";
     for (auto _ : state) {
-        int const file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
-        auto const written = ::write(file, Practice::record.data(), Practice::record.size());
-        benchmark::DoNotOptimize(written);
-        ::fsync(file);
-        ::close(file);
+        write_and_flush(path);
     }
     std::filesystem::remove(path);
 }
@@ -196,11 +200,7 @@ void floor_of_a_lasting_save(benchmark::State& state) {
     auto const beside = folder / "Plancher.tmp";
     auto const path = folder / "Plancher.fcy";
     for (auto _ : state) {
-        int const file = ::open(beside.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
-        auto const written = ::write(file, Practice::record.data(), Practice::record.size());
-        benchmark::DoNotOptimize(written);
-        ::fsync(file);
-        ::close(file);
+        write_and_flush(beside);
         std::filesystem::rename(beside, path);
         int const directory = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
         ::fsync(directory);
