@@ -1,5 +1,5 @@
 // A picture drawn by the build, as a file of the program's resources: its head, then its dots
-// as the toolkit holds them in memory. Nothing is left to decode: the resource is compressed.
+// as the toolkit holds them in memory. Nothing is left to decode, nor to copy.
 #pragma once
 
 #include <QByteArray>
@@ -21,15 +21,20 @@ inline QByteArray ahead_bytes(QImage const& image) {
     return bytes;
 }
 
+/// The image's dots stay in the bytes.
 /// @param bytes  as ahead_bytes() made them, or none for no image.
 inline QImage ahead_image(QByteArray const& bytes) {
     if (bytes.isEmpty()) return {};
     AheadImageHead head{};
     std::memcpy(&head, bytes.constData(), sizeof head);
-    QImage image{head.width, head.height, static_cast<QImage::Format>(head.format)};
-    std::memcpy(image.bits(), bytes.constData() + sizeof head,
-                static_cast<std::size_t>(image.sizeInBytes()));
-    return image;
+    auto* const kept = new QByteArray{bytes};
+    return {reinterpret_cast<uchar const*>(kept->constData()) + sizeof head,
+            head.width,
+            head.height,
+            head.width * 4,
+            static_cast<QImage::Format>(head.format),
+            [](void* given) { delete static_cast<QByteArray*>(given); },
+            kept};
 }
 
 }  // namespace navarun::desktop

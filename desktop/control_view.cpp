@@ -37,7 +37,7 @@ class LabelView : public PlacedView<screen::Label, LabelWidget> {
     }
 
   protected:
-    QRect place() const override { return LabelWidget::grown(to_rect(control()), look()); }
+    QRect place() const override { return shown().grown(to_rect(control())); }
     void show_content() override { shown().set_look(look()); }
 
   private:

@@ -16,11 +16,11 @@ QString vectors_of(QString const& name) {
     return QStringLiteral(":/pictures/%1.svg").arg(name);
 }
 
-// Null where the build has not drawn the picture at that scale.
-QImage image_ahead(QString const& name, char const* scale) {
+// Null where the build has not drawn the picture at that size: a factor of its own, or its
+// dots.
+QImage image_ahead(QString const& name, QString const& size) {
     return ahead_image(
-        QResource{QStringLiteral(":/ahead/%1@%2").arg(name, QLatin1String{scale})}
-            .uncompressedData());
+        QResource{QStringLiteral(":/ahead/%1@%2").arg(name, size)}.uncompressedData());
 }
 
 }  // namespace
@@ -44,7 +44,7 @@ struct DrawnPicture::Content {
 DrawnPicture::DrawnPicture(QString const& name) {
     if (!QFile::exists(vectors_of(name))) return;
     m_content = std::make_unique<Content>(name);
-    m_content->at_natural_size = image_ahead(name, "1");
+    m_content->at_natural_size = image_ahead(name, QStringLiteral("1"));
     m_content->natural_size = m_content->at_natural_size.isNull()
                                   ? m_content->vectors().defaultSize()
                                   : m_content->at_natural_size.size();
@@ -64,14 +64,15 @@ void DrawnPicture::draw(QPainter& painter, QRectF const& place) const {
 QImage DrawnPicture::drawn_ahead(QSize size) const {
     if (!m_content) return {};
     if (size == natural_size()) return m_content->at_natural_size;
-    if (size == natural_size() * 2) return image_ahead(m_content->name, "2");
-    return {};
+    if (size == natural_size() * 2) return image_ahead(m_content->name, QStringLiteral("2"));
+    return image_ahead(m_content->name,
+                       QStringLiteral("%1x%2").arg(size.width()).arg(size.height()));
 }
 
 QIcon icon_of(QString const& name) {
     QIcon icon;
-    for (auto const* scale : {"0.125", "0.25", "0.5", "1"}) {
-        icon.addPixmap(QPixmap::fromImage(image_ahead(name, scale)));
+    for (auto const* size : {"0.125", "0.25", "0.5", "1"}) {
+        icon.addPixmap(QPixmap::fromImage(image_ahead(name, QLatin1String{size})));
     }
     return icon;
 }

@@ -34,15 +34,22 @@ LabelWidget::LabelWidget(QWidget* parent) : QWidget{parent} {}
 
 void LabelWidget::set_look(Look look) {
     if (look == m_look) return;
+    if (look.text != m_look.text || look.font != m_look.font) m_text_width.reset();
     m_look = std::move(look);
     update();
 }
 
-QRect LabelWidget::grown(QRect const& box, Look const& look) {
-    if (!look.centred || look.opaque || look.text.isEmpty()) return box;
-    if (wraps(box, look.font)) return box;
-    int const needed =
-        static_cast<int>(std::ceil(QFontMetricsF{look.font}.horizontalAdvance(look.text))) + 2;
+double LabelWidget::text_width() const {
+    if (!m_text_width) {
+        m_text_width = QFontMetricsF{m_look.font}.horizontalAdvance(m_look.text);
+    }
+    return *m_text_width;
+}
+
+QRect LabelWidget::grown(QRect const& box) const {
+    if (!m_look.centred || m_look.opaque || m_look.text.isEmpty()) return box;
+    if (wraps(box, m_look.font)) return box;
+    int const needed = static_cast<int>(std::ceil(text_width())) + 2;
     int const more = needed - box.width();
     if (more <= 0) return box;
     int const left = (more + 1) / 2;
@@ -54,7 +61,7 @@ int LabelWidget::indent() const { return m_look.opaque ? margin : 0; }
 double LabelWidget::room() const { return width() - 2 * indent(); }
 
 double LabelWidget::narrowing() const {
-    double const needed = QFontMetricsF{m_look.font}.horizontalAdvance(m_look.text);
+    double const needed = text_width();
     return needed > room() && !wraps(rect(), m_look.font) ? room() / needed : 1.0;
 }
 
@@ -72,6 +79,8 @@ void LabelWidget::paintEvent(QPaintEvent*) {
     QPainter painter{this};
     if (m_look.opaque) painter.fillRect(rect(), m_look.back);
     if (m_look.border) draw_border(painter, rect());
+    // The font of no letter need not be found.
+    if (m_look.text.isEmpty()) return;
     painter.setPen(m_look.fore);
     painter.setFont(m_look.font);
     auto const across = m_look.centred ? Qt::AlignHCenter : Qt::AlignLeft;

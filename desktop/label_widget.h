@@ -3,6 +3,7 @@
 
 #include <QPainter>
 #include <QWidget>
+#include <optional>
 
 namespace navarun::desktop {
 
@@ -29,7 +30,7 @@ class LabelWidget : public QWidget {
 
     /// The place that the text needs: a centred text without ground that is wider than its box
     /// grows to both sides from the box's centre. A text on a ground keeps to its box.
-    static QRect grown(QRect const& box, Look const& look);
+    QRect grown(QRect const& box) const;
 
     /// By how much a text that does not fit is drawn narrower: 1 for a text that fits.
     double narrowing() const;
@@ -42,8 +43,11 @@ class LabelWidget : public QWidget {
   private:
     int indent() const;
     double room() const;  // pixels for one line
+    double text_width() const;
 
     Look m_look;
+    // Laying letters side by side is most of the work of a label: once for each text.
+    mutable std::optional<double> m_text_width;
 };
 
 }  // namespace navarun::desktop

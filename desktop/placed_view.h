@@ -21,20 +21,21 @@ class PlacedView : public ControlView {
     QWidget* widget() const override { return m_widget; }
 
     void refresh() override {
-        m_widget->setGeometry(place());
         if (!m_control.Visible || !m_control.Enabled) let_go_of_keyboard();
         m_widget->setEnabled(m_control.Enabled);
         m_widget->setToolTip(plain_tooltip(m_control.ToolTipText.get()));
         show_name(*m_widget, to_qt(m_control.SpokenName.get()));
         show_pointer();
         show_content();
+        m_widget->setGeometry(place());
         // Last, so that nothing half made is seen.
         m_widget->setVisible(m_control.Visible);
     }
 
   protected:
-    virtual QRect place() const { return to_rect(m_control); }
     virtual void show_content() = 0;
+    /// Asked once the content is shown: what is drawn may need more than its box.
+    virtual QRect place() const { return to_rect(m_control); }
 
     Session& session() const { return m_session; }
     C& control() const { return m_control; }

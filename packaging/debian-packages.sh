@@ -3,7 +3,7 @@
 
 build_packages=(
     g++ cmake ninja-build ccache
-    qt6-base-dev qt6-svg-dev
+    qt6-base-dev qt6-svg-dev libfontconfig-dev
     weasyprint python3-markdown fonts-liberation
     nlohmann-json3-dev
 )

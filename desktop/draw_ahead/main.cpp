@@ -1,8 +1,9 @@
-// Draws pictures at some scales, as the program would from their vectors, so that it need not.
+// Draws pictures at some sizes, as the program would from their vectors, so that it need not.
 //
-//   draw_ahead FOLDER SCALE[,SCALE]... PICTURE.svg...
+//   draw_ahead FOLDER SIZE[,SIZE]... PICTURE.svg...
 //
-// leaves PICTURE@SCALE in FOLDER, in the form of desktop/ahead_image.h.
+// leaves PICTURE@SIZE in FOLDER, in the form of desktop/ahead_image.h. A size is a factor of
+// the picture's own, as 0.5, or dots, as 305x105.
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -24,10 +25,17 @@ bool is_opaque(QImage const& image) {
     return true;
 }
 
-bool draw(QString const& file, QString const& scale, QString const& folder) {
+QSize dots(QString const& size, QSize natural) {
+    auto const sides = size.split(QLatin1Char('x'));
+    return sides.size() == 2 ? QSize{sides[0].toInt(), sides[1].toInt()}
+                             : (QSizeF{natural} * size.toDouble()).toSize();
+}
+
+bool draw(QString const& file, QString const& wanted, QString const& folder) {
     QSvgRenderer vectors{file};
     if (!vectors.isValid()) return false;
-    QSize const size = (QSizeF{vectors.defaultSize()} * scale.toDouble()).toSize();
+    QSize const size = dots(wanted, vectors.defaultSize());
+    if (size.isEmpty()) return false;
     QImage image{size, QImage::Format_ARGB32_Premultiplied};
     image.fill(Qt::transparent);
     QPainter painter{&image};
@@ -36,7 +44,7 @@ bool draw(QString const& file, QString const& scale, QString const& folder) {
     // What hides all below it is painted without a look at what that is.
     if (is_opaque(image)) image.convertTo(QImage::Format_RGB32);
     QString const name = QFileInfo{file}.completeBaseName();
-    QFile drawn{QStringLiteral("%1/%2@%3").arg(folder, name, scale)};
+    QFile drawn{QStringLiteral("%1/%2@%3").arg(folder, name, wanted)};
     QByteArray const bytes = navarun::desktop::ahead_bytes(image);
     return drawn.open(QIODevice::WriteOnly) && drawn.write(bytes) == bytes.size();
 }
@@ -47,13 +55,13 @@ int main(int argc, char** argv) {
     QCoreApplication application{argc, argv};
     QStringList const arguments = QCoreApplication::arguments();
     if (arguments.size() < 4) {
-        std::cerr << "usage: draw_ahead FOLDER SCALE[,SCALE]... PICTURE.svg...\n";
+        std::cerr << "usage: draw_ahead FOLDER SIZE[,SIZE]... PICTURE.svg...\n";
         return 2;
     }
     for (auto const& file : arguments.sliced(3)) {
-        for (auto const& scale : arguments[2].split(QLatin1Char(','))) {
-            if (draw(file, scale, arguments[1])) continue;
-            std::cerr << "cannot draw " << file.toStdString() << " at " << scale.toStdString()
+        for (auto const& size : arguments[2].split(QLatin1Char(','))) {
+            if (draw(file, size, arguments[1])) continue;
+            std::cerr << "cannot draw " << file.toStdString() << " at " << size.toStdString()
                       << "\n";
             return 1;
         }
