@@ -9,10 +9,9 @@ import sys
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path[:0] = [HERE, os.path.join(HERE, "../support")]
+from acts import *
 from day import Row, play_day
 from rows import *
-
-BAR = "HScroll_age"
 
 # A window that opens leaves the field in which one writes unfinished; what is done in it does not.
 A_WINDOW_IN_BETWEEN = [
@@ -42,12 +41,7 @@ THE_PERSON = [
     write("Text_Note", "Première visite.", "writes a note"),
 ]
 THE_AGES = [
-    arrow(BAR, right=True),
-    arrow(BAR, right=True),
-    arrow(BAR, right=False),
-    trough(BAR, right=True),
-    trough(BAR, right=True),
-    Row("presses Enter on the bar: the chart follows", [("keys", "Return")], [ask("key", BAR, code=13)]),
+    *STEPS_OF_THE_BAR,
     thumb(BAR, 0.06, 0.5),
     click("Command2", "generates for that age"),
     thumb(BAR, 0.5, 1.0),
@@ -57,22 +51,10 @@ THE_AGES = [
         [ask("set", BAR, value=2), ask("set", BAR, value=3)]),
     click("Command_DateNow", "goes to the present age"),
 ]
-THE_CELLS = [
-    *(click(f"Label_mois({cell})", f"picks the month in cell {cell}") for cell in (2, 3, 9, 12)),
-    *(click(f"Label_Dasha({cell})", f"picks the period in cell {cell}") for cell in (1, 4, 7)),
-    double_click("Label_Solaire(3)", "asks for the definition of a palace"),
-    double_click("Label_Solaire(10)", "asks for that of another"),
-    click("Command_categorie", "shows the categories of the palaces"),
-    click("Command_categorie", "hides them"),
-    click("Btn_cycle_partiel", "shows the three cycles only"),
-    click("Btn_cycle_partiel", "shows all cycles again"),
-]
 THE_CHOOSER = [
     click("Label_age", "opens the choice of an age"),
     Row("points at an age", [("point", "choix_age.Label2(45)")], [ask("hover", "choix_age.Label2(45)")]),
-    click("choix_age.Image2", "turns to the next page"),
-    click("choix_age.Image1", "turns back"),
-    click("choix_age.Label2(40)", "chooses 40 years"),
+    *CHOICE_OF_AN_AGE,
     click("Label_age", "opens the choice again"),
     Row("leaves it by Escape", [("keys", "Escape")], [{"op": "close", "form": "choix_age"}]),
 ]
@@ -82,20 +64,10 @@ THE_WINDOWS = [
     click("Text_prenom", "comes back to the main window"),
     click("Command_DateNow"),
     menu("Mnuperiode", "closes the list"),
-    menu("Mnu_palaisdestin", "opens the palace of destiny"),
-    close("Palais_du_destin"),
-    click("Bouton_seigneurjour", "opens the lords of the day"),
-    entry("FrmSeigneurJour.List_SeigneurJour", 7),
-    click("FrmSeigneurJour.Btn_Fermez", "closes them"),
-    menu("MnuCalendrier", "opens the calendar"),
-    click("frmCalend.chkFerie", "marks the holidays"),
-    click("frmCalend.chkWeek", "marks the week ends"),
-    choose("frmCalend.cMois", "Mai"),
-    click("frmCalend.btnJour(10)", "picks a day"),
-    click("frmCalend.BtnToday", "goes back to today"),
+    *DESTINY_AND_LORDS,
+    *CALENDAR,
     close("frmCalend"),
-    menu("MnuPropos", "opens the about box"),
-    click("a_propos.cmdOK", "closes it"),
+    *ABOUT,
 ]
 THE_ARROWS = [
     menu("MnuFleche", "opens the arrows"),
@@ -119,14 +91,10 @@ THE_LOOKS = [
     menu("Mnuperiode", "opens the list of periods in mauve"),
     close("Affiche_cycle"),
     menu("MnuAzur_cycle"),
-    menu("Mnu_abrege", "abridges the lords"),
-    click("Label_mois(5)"),
-    menu("Mnu_abrege", "says them in full again"),
-    menu("Mnu_Julien", "takes the date for a Julian one"),
-    click("Command2", "generates"),
+    *ABRIDGED,
+    *BY_A_JULIAN_DATE,
     Row("points at the mark of the calendar", [("point", "Image_cal_Julien")], [ask("hover", "Image_cal_Julien")]),
-    click("Image_cal_Julien", "takes it back by the mark"),
-    click("Command2", "generates"),
+    *BACK_BY_THE_MARK,
 ]
 
 
@@ -154,7 +122,7 @@ THE_END = [
 
 
 def rows(day):
-    for part in (A_WINDOW_IN_BETWEEN, THE_PERSON, THE_AGES, THE_CELLS, THE_CHOOSER, THE_WINDOWS,
+    for part in (A_WINDOW_IN_BETWEEN, THE_PERSON, THE_AGES, CELLS, THE_CHOOSER, THE_WINDOWS,
                  THE_ARROWS, THE_LOOKS, the_place(day), THE_END):
         yield from part
 

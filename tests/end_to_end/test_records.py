@@ -11,11 +11,10 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path[:0] = [HERE, os.path.join(HERE, "../support")]
 from PIL import Image
 
+from acts import *
 from day import Row, play_day
 from desk import wait_for
 from rows import *
-
-LIST, SEARCH, CONTROL, ERASE, ENTER = "File_Fichier", "Text_Cherche", 17, 46, 13
 
 
 def fill(folder):
@@ -25,11 +24,8 @@ def fill(folder):
     for place in (data, images):
         os.makedirs(place)
     for first, last in (("Alix", "Essai"), ("Luc", "Martin"), ("Zoé", "Témoin")):
-        record = f'"{first}","{last}","03","11","19","71",0,"","Note de {first}"\r\n'
-        with open(os.path.join(data, f"{last} {first}.fcy"), "wb") as file:
-            file.write(record.encode("cp1252"))
-    Image.new("RGB", (200, 300), (200, 60, 60)).save(os.path.join(images, "rouge.jpg"))
-    Image.new("RGB", (400, 200), (40, 90, 200)).save(os.path.join(images, "bleu.bmp"))
+        keep_record(data, first, last)
+    keep_portraits(images)
 
 
 def drop_from_outside(day):
@@ -62,10 +58,7 @@ KEEP_ONE = [
     click("Command2"),
     write("Text_Note", "Changer de métier ?"),
     click("Command_Disk_Vert", "saves"),
-    Row("writes more", [("click", "Text_Note"), ("keys", "ctrl+End"), ("type", " Oui.")],
-        [ask("type", "Text_Note", text=" Oui.")]),
-    answered(click("Command_Disk_Vert", "saves over it, but is not sure"), 2),
-    answered(click("Command_Disk_Vert", "saves over it"), 1),
+    *WRITE_MORE_AND_SAVE,
 ]
 FIND = [
     click("Charge(1)", "opens the first folder"),

@@ -1,4 +1,4 @@
-// The initials of a name and the report of the personality.
+// The report of the personality.
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -6,74 +6,12 @@
 
 #include <gtest/gtest.h>
 
-#include "readings/initials.h"
 #include "shell/program.h"
 #include "tests/readings/golden.h"
 #include "tests/support/visit.h"
 
 namespace navarun::test {
 namespace {
-
-// --- which initials a name has
-
-struct InitialsCase {
-    char const* name;
-    char const* first_name;
-    char const* last_name;
-    std::vector<std::string> initials;
-    friend std::ostream& operator<<(std::ostream& out, InitialsCase const& row) {
-        return out << row.name;
-    }
-};
-// clang-format off
-InitialsCase const initials_cases[] = {
-    {"hyphen",                            "Marie-Claire",     "Dupont",       {"M", "C", "D"}},
-    {"blank",                             "Marie Claire",     "Dupont",       {"M", "C", "D"}},
-    {"full_stop",                         "Marie.Claire",     "Dupont",       {"M", "C", "D"}},
-    {"small_letters",                     "marie-claire",     "dupont",       {"M", "C", "D"}},
-    {"one_given_name",                    "Marie",            "Dupont",       {"M", "D"}},
-    {"three_given_names_give_three",      "Jean-Paul-Marc",   "Roux",         {"J", "P", "R"}},
-    {"last_name_never_gives_two",         "Luc",              "De La Tour",   {"L", "D"}},
-    {"two_separators_point_elsewhere",    "Abcd-fgh.ijklmno", "Quant",        {"A", "M", "Q"}},
-    {"two_separators_past_the_end",       "Abcd-fg.",         "Quant",        {"A", "Q", "Q"}},
-    {"closing_separator_takes_last_twice", "Anne.",           "Roux",         {"A", "R", "R"}},
-    {"no_last_name",                      "Marie-Claire",     "",             {"M", "C", ""}},
-    {"only_a_last_name",                  "",                 "Zola",         {"", "Z"}},
-    {"accent_counts_as_one_place",        "Chloé Ève",        "Été",          {"C", "È", "É"}},
-    {"digit",                             "7 Nains",          "Blanche",      {"7", "N", "B"}},
-    {"leading_blank",                     " Luc",             "Roux",         {" ", "L", "R"}},
-};
-// clang-format on
-class InitialsOf : public testing::TestWithParam<InitialsCase> {};
-TEST_P(InitialsOf, TheName) {
-    auto const& row = GetParam();
-    EXPECT_EQ(initials_of(row.first_name, row.last_name), row.initials);
-}
-INSTANTIATE_TEST_SUITE_P(Names, InitialsOf, testing::ValuesIn(initials_cases),
-                         [](auto const& row) { return row.param.name; });
-
-TEST(LetterText, StandsForTheCapitalsAToZAlone) {
-    for (char letter = 'A'; letter <= 'Z'; ++letter) {
-        auto const found = letter_text(std::string{letter});
-        ASSERT_TRUE(found.has_value()) << letter;
-        EXPECT_EQ(found->front(), letter);
-        EXPECT_EQ(found->back(), '.');
-    }
-    for (char const* other : {"", "É", "a", "7", " ", "AB", "@", "["}) {
-        EXPECT_FALSE(letter_text(other).has_value()) << other;
-    }
-}
-
-TEST(LetterText, KeepsThePractitionersOwnSpacing) {
-    EXPECT_TRUE(letter_text("A")->starts_with("A- INITIATIVE, INTELLIGENCE : "));
-    EXPECT_TRUE(letter_text("C")->starts_with("C -intuition: Rapidité d  'esprit "));
-    EXPECT_TRUE(letter_text("X")->starts_with("X -SACRIFICE, RENONCEMENT: "));
-    for (char const* dashed : {"F", "I", "V"}) {
-        EXPECT_TRUE(letter_text(dashed)->substr(1).starts_with(" – ")) << dashed;
-    }
-}
-
-// --- the report
 
 /// A consultation that can bring records back.
 struct Practice : Visit {

@@ -7,13 +7,11 @@ the main one, and as many records as before.
 
 import os
 
-from PIL import Image
-
+from acts import *
 from day import Row
 from desk import wait_for
 from rows import *
 
-BAR, LIST, SEARCH, CONTROL, ENTER = "HScroll_age", "File_Fichier", "Text_Cherche", 17, 13
 FIRST_NAMES = ("Camille", "Alix", "Maxence", "Dominique", "Ambre", "Basile", "Colombe", "Firmin")
 # All before those of former days in the list of a folder.
 LAST_NAMES = ("Airelle", "Bouleau", "Acacia", "Bruyère", "Anis", "Bleuet", "Aubépine")
@@ -26,11 +24,8 @@ def fill(folder):
         os.makedirs(place)
     for place, first, last in (("DATA1", "Luc", "Martin"), ("DATA1", "Zoé", "Témoin"),
                                ("DATA2", "Ève", "Durand"), ("DATA2", "Guy", "Petit")):
-        record = f'"{first}","{last}","03","11","19","71",0,"","Note de {first}"\r\n'
-        with open(os.path.join(places[place], f"{last} {first}.fcy"), "wb") as file:
-            file.write(record.encode("cp1252"))
-    Image.new("RGB", (200, 300), (200, 60, 60)).save(os.path.join(places["IMAGE"], "rouge.jpg"))
-    Image.new("RGB", (400, 200), (40, 90, 200)).save(os.path.join(places["IMAGE"], "bleu.bmp"))
+        keep_record(places[place], first, last)
+    keep_portraits(places["IMAGE"])
 
 
 def person(client):
@@ -54,51 +49,24 @@ def comes(client):
 
 
 AGES = [
-    arrow(BAR, right=True),
-    arrow(BAR, right=True),
-    arrow(BAR, right=False),
-    trough(BAR, right=True),
-    trough(BAR, right=True),
-    Row("presses Enter on the bar: the chart follows", [("keys", "Return")], [ask("key", BAR, code=ENTER)]),
+    *STEPS_OF_THE_BAR,
     thumb(BAR, 0.06, 0.3),
     click("Command2", "generates for that age"),
     click("Label_age", "opens the choice of an age"),
-    click("choix_age.Image2", "turns to the next page"),
-    click("choix_age.Image1", "turns back"),
-    click("choix_age.Label2(40)", "chooses 40 years"),
+    *CHOICE_OF_AN_AGE,
     click("Command_DateNow", "goes to the present age"),
-]
-CELLS = [
-    *(click(f"Label_mois({cell})", f"picks the month in cell {cell}") for cell in (2, 3, 9, 12)),
-    *(click(f"Label_Dasha({cell})", f"picks the period in cell {cell}") for cell in (1, 4, 7)),
-    double_click("Label_Solaire(3)", "asks for the definition of a palace"),
-    double_click("Label_Solaire(10)", "asks for that of another"),
-    click("Command_categorie", "shows the categories of the palaces"),
-    click("Command_categorie", "hides them"),
-    click("Btn_cycle_partiel", "shows the three cycles only"),
-    click("Btn_cycle_partiel", "shows all cycles again"),
 ]
 WINDOWS = [
     menu("Mnuperiode", "opens the list of periods"),
     entry("Affiche_cycle.List_periode", 3),
     click("Command_DateNow"),
     menu("Mnuperiode", "closes the list"),
-    menu("Mnu_palaisdestin", "opens the palace of destiny"),
-    close("Palais_du_destin"),
-    click("Bouton_seigneurjour", "opens the lords of the day"),
-    entry("FrmSeigneurJour.List_SeigneurJour", 7),
-    click("FrmSeigneurJour.Btn_Fermez", "closes them"),
-    menu("MnuCalendrier", "opens the calendar"),
-    click("frmCalend.chkFerie", "marks the holidays"),
-    click("frmCalend.chkWeek", "marks the week ends"),
-    choose("frmCalend.cMois", "Mai"),
-    click("frmCalend.btnJour(10)", "picks a day"),
-    click("frmCalend.BtnToday", "goes back to today"),
+    *DESTINY_AND_LORDS,
+    *CALENDAR,
     click("frmCalend.chkFerie"),
     click("frmCalend.chkWeek"),
     close("frmCalend"),
-    menu("MnuPropos", "opens the about box"),
-    click("a_propos.cmdOK", "closes it"),
+    *ABOUT,
     menu("MnuCalculatrice", "starts the calculator"),
     menu("MnuBlocNotes", "starts the editor"),
 ]
@@ -121,13 +89,9 @@ LOOKS = [
     menu("MnuMauve_cycle"),
     menu("MnuMauve_Aum"),
     menu("MnuAzur_cycle"),
-    menu("Mnu_abrege", "abridges the lords"),
-    click("Label_mois(5)"),
-    menu("Mnu_abrege", "says them in full again"),
-    menu("Mnu_Julien", "takes the date for a Julian one"),
-    click("Command2", "generates"),
-    click("Image_cal_Julien", "takes it back by the mark"),
-    click("Command2", "generates"),
+    *ABRIDGED,
+    *BY_A_JULIAN_DATE,
+    *BACK_BY_THE_MARK,
     menu("MnuDevant", "keeps the window above all others"),
     menu("MnuDevant", "lets it go below them"),
 ]
@@ -161,10 +125,7 @@ def keep(client):
         click("Charge(1)", "opens the first folder"),
         Row("searches", [("type", last[:4].lower())], [ask("type", SEARCH, text=last[:4].lower())]),
         Row("loads what was found by Enter", [("keys", "Return")], [ask("key", SEARCH, code=ENTER)]),
-        Row("writes more", [("click", "Text_Note"), ("keys", "ctrl+End"), ("type", " Oui.")],
-            [ask("type", "Text_Note", text=" Oui.")]),
-        answered(click("Command_Disk_Vert", "saves over it, but is not sure"), 2),
-        answered(click("Command_Disk_Vert", "saves over it"), 1),
+        *WRITE_MORE_AND_SAVE,
         double_click("Picture_PHOTO", "takes the portrait off"),
         click("Command_reset", "begins anew"),
         click("Charge(1)", "opens the first folder again"),

@@ -25,6 +25,7 @@ InitialsCase const initials_cases[] = {
     {"blank_gives_a_second", "Marie Claire", "Dupont", {"M", "C", "D"}},
     {"full_stop_gives_a_second", "M.Claire", "Dupont", {"M", "C", "D"}},
     {"only_the_first_of_one_separator", "A-B-C", "Dupont", {"A", "B", "D"}},
+    {"three_given_names_give_two", "Jean-Paul-Marc", "Roux", {"J", "P", "R"}},
     {"a_last_name_never_gives_two", "Jean", "De La Tour", {"J", "D"}},
     {"separator_at_the_end", "Marie-", "Dupont", {"M", "D", "D"}},
     {"blank_at_the_end", "Marie ", "Dupont", {"M", "D", "D"}},
@@ -33,6 +34,7 @@ InitialsCase const initials_cases[] = {
     // Places 5 and 8 or-ed give 13, the character after it is the 14th.
     {"two_separators_point_elsewhere", "Jean Lo-MartinX", "Dupont", {"J", "N", "D"}},
     {"two_separators_point_beyond", "Jean Lo-Luc", "Dupont", {"J", "D", "D"}},
+    {"two_separators_point_far_on", "Abcd-fgh.ijklmno", "Quant", {"A", "M", "Q"}},
     // Places 2 and 3 or-ed give 3.
     {"two_separators_side_by_side", "J. Paul", "Dupont", {"J", "P", "D"}},
     // Places 1 and 2 or-ed give 3, which skips a letter.
@@ -41,11 +43,15 @@ InitialsCase const initials_cases[] = {
     {"accented_capital_is_its_own", "Émile", "Dupont", {"É", "D"}},
     {"accented_small_becomes_capital", "émile", "éluard", {"É", "É"}},
     {"accented_letters_count_as_one", "Éé-Zoé", "Dupont", {"É", "Z", "D"}},
+    {"accented_letters_on_both_sides", "Chloé Ève", "Été", {"C", "È", "É"}},
     {"digits", "07_03_1952", "Dupont", {"0", "D"}},
+    {"a_digit_that_counts", "7 Nains", "Blanche", {"7", "N", "B"}},
     {"only_a_last_name", "", "Dupont", {"", "D"}},
     {"only_a_first_name", "Marie", "", {"M", ""}},
+    {"two_given_names_no_last_name", "Marie-Claire", "", {"M", "C", ""}},
     {"separator_at_the_end_no_last_name", "Marie-", "", {"M", "", ""}},
     {"nobody", "", "", {"", ""}},
+    {"leading_blank_of_the_first_name", " Luc", "Roux", {" ", "L", "R"}},
     {"leading_blank_of_the_last_name", "Marie", " Dupont", {"M", " "}},
 };
 
