@@ -13,6 +13,8 @@ class CompactStyle : public QProxyStyle {
                          SubControl part, QWidget const* widget) const override;
     void drawControl(ControlElement element, QStyleOption const* option, QPainter* painter,
                      QWidget const* widget) const override;
+    QIcon standardIcon(StandardPixmap icon, QStyleOption const* option,
+                       QWidget const* widget) const override;
 };
 
 }  // namespace navarun::desktop
