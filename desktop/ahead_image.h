@@ -31,7 +31,7 @@ inline QImage ahead_image(QByteArray const& bytes) {
     return {reinterpret_cast<uchar const*>(kept->constData()) + sizeof head,
             head.width,
             head.height,
-            head.width * 4,
+            qsizetype{head.width} * 4,
             static_cast<QImage::Format>(head.format),
             [](void* given) { delete static_cast<QByteArray*>(given); },
             kept};

@@ -66,7 +66,7 @@ double LabelWidget::narrowing() const {
 }
 
 void LabelWidget::contextMenuEvent(QContextMenuEvent* event) {
-    QString const text = m_look.text.simplified();
+    QString text = m_look.text.simplified();
     if (text.isEmpty()) {
         event->ignore();
         return;
