@@ -25,6 +25,7 @@ constexpr double target = 1.2;
 
 double median(std::vector<StartFigures> const& starts, double StartFigures::*figure) {
     std::vector<double> values;
+    values.reserve(starts.size());
     for (auto const& start : starts) values.push_back(start.*figure);
     std::ranges::sort(values);
     auto const middle = values.size() / 2;
