@@ -1,10 +1,12 @@
 // The pictures: all there, drawn with what every renderer knows, and quiet under the texts.
+#include <QApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QPainter>
+#include <QStyle>
 #include <QSvgRenderer>
 #include <QXmlStreamReader>
 #include <algorithm>
@@ -141,6 +143,44 @@ TEST_F(WindowPictures, OfEveryControlAreThereAndNotLargerThanTheirButton) {
         }
     }
     EXPECT_GE(checked, 20);
+}
+
+// Another size than their own, which the build knows: drawn from their vectors they would hold
+// up every start.
+TEST_F(WindowPictures, OfTheCloudsAndTheSmallButtonsAreDrawnAheadAsTheyAreShown) {
+    struct Shown {
+        screen::Control const& control;
+        std::vector<char const*> names;
+        int edge = 0;  // pixels at each side of a button
+    };
+    Shown const all[]{
+        {form().Image1, {"Image_nuage_Bas_0", "Image_nuage_Bas_1"}},
+        {form().Image2, {"Image_nuage_haut_0", "Image_nuage_haut_1"}},
+        {form().Command_reset, {"reset_efface_0", "reset_efface_1"}, 1},
+        {form().Command_Disk_Vert, {"Diskette_0", "Diskette_1"}, 1},
+    };
+    for (auto const& [control, names, edge] : all) {
+        QSize const room = widget(control).size() - 2 * QSize{edge, edge};
+        for (auto const* name : names) {
+            desktop::DrawnPicture const picture{QLatin1String{name}};
+            QSize const size =
+                edge == 0 ? room : picture.natural_size().scaled(room, Qt::KeepAspectRatio);
+            EXPECT_FALSE(picture.drawn_ahead(size).isNull()) << name;
+            EXPECT_FALSE(picture.drawn_ahead(size * 2).isNull()) << name;
+        }
+    }
+}
+
+TEST(Pictures, OfAMenuBarWithoutRoomIsAnArrowToTheRight) {
+    auto const arrow =
+        QApplication::style()->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton);
+    QImage const drawn = arrow.pixmap(QSize{16, 16}).toImage();
+    int inked = 0;
+    for (int y = 0; y < drawn.height(); ++y) {
+        for (int x = 0; x < drawn.width(); ++x) inked += qAlpha(drawn.pixel(x, y)) > 0 ? 1 : 0;
+    }
+    EXPECT_GT(inked, 8);
+    EXPECT_LT(inked, 16 * 16 / 2) << "its ground is not clear";
 }
 
 // --- What a picture file may hold -----------------------------------------------------------
