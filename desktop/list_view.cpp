@@ -71,16 +71,18 @@ class ListKeys : public QObject {
 // delete, and a field that loses the keyboard may be repaired.
 class ListMenu : public QObject {
   public:
-    ListMenu(screen::List& list, QListView& view) : QObject{&view}, m_list{list}, m_view{view} {
+    ListMenu(screen::List& list, QListView& view)
+        : QObject{&view}, m_list{list}, m_view{view}, m_bar{view.verticalScrollBar()} {
         // Else any button would bring the keyboard.
         view.setFocusPolicy(Qt::TabFocus);
         view.installEventFilter(this);
         view.viewport()->installEventFilter(this);
-        view.verticalScrollBar()->installEventFilter(this);
+        m_bar->installEventFilter(this);
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        bool const on_bar = watched == m_view.verticalScrollBar();
+        // Events come until the view is gone, so the bar is not asked of it here.
+        bool const on_bar = watched == m_bar;
         switch (event->type()) {
             case QEvent::MouseButtonPress:
             case QEvent::MouseButtonRelease:
@@ -125,6 +127,7 @@ class ListMenu : public QObject {
 
     screen::List& m_list;
     QListView& m_view;
+    QObject* m_bar;
 };
 
 }  // namespace

@@ -506,6 +506,21 @@ TEST_P(SchemeTexts, OfTheCellsLieOnOneFlatLightColour) {
     EXPECT_EQ(colours_of_all_cells.size(), 1U);
 }
 
+// Their right end stands in the middle of the window.
+TEST_P(SchemeTexts, LieOnCloudsThatEndInTheColourOfTheWindow) {
+    QImage const shown = sheets().without_labels;
+    QRect const clouds = desktop::to_rect(form().Image2);
+    QColor const window = desktop::to_qt(form().BackColor.get());
+    int const fields = desktop::to_rect(form().Combo_AnNaiss2).top();
+    for (int y = clouds.top() + 2; y < fields; ++y) {
+        QColor const last = shown.pixelColor(clouds.right(), y);
+        int const step = std::max({std::abs(last.red() - window.red()),
+                                   std::abs(last.green() - window.green()),
+                                   std::abs(last.blue() - window.blue())});
+        EXPECT_LE(step, 3) << scheme() << ", line " << y << ": " << last.name().toStdString();
+    }
+}
+
 TEST_P(SchemeTexts, OfTheStartAreReadable) { check_all(scheme() + ", start"); }
 
 TEST_P(SchemeTexts, OfAConsultationAreReadable) {

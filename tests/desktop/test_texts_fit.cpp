@@ -65,7 +65,7 @@ TEST_F(TextsFit, TheBordersEndWhereTheirGroundsEnd) {
         QPoint const corner = shown.mapTo(&window(), QPoint{0, 0});
         // Along a line below the letters, from the middle to the right and beyond.
         int const y = static_cast<int>((corner.y() + shown.height() - 4) * ratio);
-        int const middle = static_cast<int>((corner.x() + shown.width() / 2) * ratio);
+        int const middle = static_cast<int>((corner.x() + shown.width() / 2.0) * ratio);
         int const beyond = static_cast<int>((corner.x() + shown.width() + 2) * ratio);
         QColor const ground = desktop::to_qt(label->BackColor.get());
         bool border_met = false;

@@ -81,7 +81,7 @@ class Practice : public Visit {
     void answer_next_box(int answer) { ask({{"op", "answer"}, {"value", answer}}); }
     /// Sends an act that ends the run; its answer.
     Json fatal(Json const& request) {
-        Json const answer = ask(request);
+        Json answer = ask(request);
         EXPECT_EQ(answer.value("error", ""), "fatal") << answer;
         EXPECT_EQ(exit_status(), 1);
         return answer;

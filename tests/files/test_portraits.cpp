@@ -14,7 +14,7 @@ class Portrait : public testing::Test {
         visit.effects();
     }
     std::filesystem::path outside(std::string const& name, std::string const& bytes) {
-        auto const path = visit.folder() / "ailleurs" / name;
+        auto path = visit.folder() / "ailleurs" / name;
         put_file(path, bytes);
         return path;
     }

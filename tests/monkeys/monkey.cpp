@@ -162,8 +162,9 @@ Event Monkey::on_picture(screen::Control const& control) {
     event.text = one_of(events);
     event.number = once_in(6) ? below(3) : 1;
     int const reach = once_in(300) ? 200'000 : 8000;
-    event.x = below(reach) - reach / 10;
-    event.y = below(reach) - reach / 10;
+    int const before = reach / 10;
+    event.x = below(reach) - before;
+    event.y = below(reach) - before;
     return event;
 }
 

@@ -154,7 +154,7 @@ TEST(Scripts, DoTheSameToThePilot) {
                 stands.push_back(stand(*run.program()));
             }
         }
-        PracticeRun{folder.path()};  // the folder as it was
+        { PracticeRun const as_it_was{folder.path()}; }
         pilot::Pilot pilot{folder.path()};
         pilot.answer_line(
             as_request({.act = Act::clock, .control = first_date, .text = first_time}).dump());

@@ -41,8 +41,7 @@ std::string difference(Json const& found, Json const& kept, std::string const& p
                    std::to_string(kept.size());
         }
         for (std::size_t i = 0; i < found.size(); ++i) {
-            auto const told =
-                difference(found[i], kept[i], place + "[" + std::to_string(i) + "]");
+            auto told = difference(found[i], kept[i], place + "[" + std::to_string(i) + "]");
             if (!told.empty()) return told;
         }
         return "";
@@ -51,7 +50,7 @@ std::string difference(Json const& found, Json const& kept, std::string const& p
         if (found.size() != kept.size()) return place + ": " + found.dump();
         for (auto const& [key, value] : found.items()) {
             if (!kept.contains(key)) return place + ": no " + key;
-            auto const told = difference(value, kept[key], place + "." + key);
+            auto told = difference(value, kept[key], place + "." + key);
             if (!told.empty()) return told;
         }
         return "";

@@ -14,8 +14,6 @@
 namespace navarun::test {
 namespace {
 
-using testing::Contains;
-using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Not;
 

@@ -8,7 +8,6 @@ namespace navarun::test {
 
 namespace {
 
-using testing::Each;
 
 struct Today {
     char const* name;

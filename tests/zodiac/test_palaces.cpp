@@ -12,7 +12,7 @@ namespace {
 
 // Twenty-one overlines, U+00AF, written out.
 constexpr std::string_view twenty_one_overlines = "¯¯¯¯¯¯¯¯¯¯¯¯¯¯¯¯¯¯¯¯¯";
-static_assert(twenty_one_overlines.size() == 21 * 2);
+static_assert(twenty_one_overlines.size() == 21 * std::string_view{"¯"}.size());
 
 struct QualityCase {
     char const* name;
