@@ -22,6 +22,21 @@ int in_utf16(QString const& text, int characters) {
         QString::fromUcs4(reinterpret_cast<char32_t const*>(ucs4.constData()), count).size());
 }
 
+struct Entered {
+    std::string text;
+    int caret;  // in characters
+};
+
+// What stands in a field after an entry. What is copied from elsewhere may bring its accents as
+// characters of their own; here a letter is one.
+Entered entered(QString const& text, int caret) {
+    auto const composed = [](QString const& some) {
+        return some.normalized(QString::NormalizationForm_C);
+    };
+    QString const before = composed(text.left(caret));
+    return {from_qt(composed(text)), in_characters(before, before.size())};
+}
+
 void set_fields_colours(QWidget& widget, screen::TextControl const& control) {
     set_colour(widget, QPalette::Base, to_qt(control.BackColor.get()));
     set_colour(widget, QPalette::Text, to_qt(control.ForeColor.get()));
@@ -157,9 +172,9 @@ TextFieldView::TextFieldView(Session& session, screen::TextField& field, QWidget
     new KeyPressFilter{session, field, shown()};
     tell_focus(session, field, shown());
     QObject::connect(&shown(), &QLineEdit::textEdited, &shown(), [this](QString const& text) {
-        int const caret = in_characters(text, shown().cursorPosition());
+        auto const now = entered(text, shown().cursorPosition());
         this->session().act(
-            [&](screen::User& user) { user.edit(this->control(), from_qt(text), caret); });
+            [&](screen::User& user) { user.edit(this->control(), now.text, now.caret); });
     });
 }
 
@@ -201,10 +216,9 @@ TextAreaView::TextAreaView(Session& session, screen::TextArea& area, QWidget& pa
     tell_focus(session, area, edit);
     QObject::connect(&edit, &QPlainTextEdit::textChanged, &edit, [this] {
         if (this->control().read_only()) return;
-        QString const text = shown().toPlainText();
-        int const caret = in_characters(text, shown().textCursor().position());
+        auto const now = entered(shown().toPlainText(), shown().textCursor().position());
         this->session().act(
-            [&](screen::User& user) { user.edit(this->control(), from_qt(text), caret); });
+            [&](screen::User& user) { user.edit(this->control(), now.text, now.caret); });
     });
 }
 

@@ -72,6 +72,7 @@ void wire_age_chooser(Program& program) {
     window.on_load = [&program] {
         program.choix_age.Stacking = screen::Stacking::topmost;
         show_page(program, 0);
+        program.choix_age.Label_choix_age.Caption = prompt;
     };
     window.on_close = [&program] { close_age_chooser(program); };
     for (int const index : window.Label2.indexes()) {

@@ -284,6 +284,14 @@ TEST_F(Keyboard, APictureCopiedElsewhereBecomesThePortrait) {
     EXPECT_EQ(form().Label_message.Caption.get(), "Ce fichier n'est pas une image !");
 }
 
+TEST_F(Keyboard, AnAccentCopiedAsACharacterOfItsOwnJoinsItsLetter) {
+    QApplication::clipboard()->setText(QStringLiteral("Rene\u0301e"));
+    widget(form().Text_prenom).setFocus(Qt::TabFocusReason);
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(form().Text_prenom.Text.get(), "Renée");
+    EXPECT_EQ(form().Text_prenom.selection().start, 5);
+}
+
 TEST_F(Keyboard, TextsThatAreOnlyReadCanBeCopied) {
     auto& text = dynamic_cast<QPlainTextEdit&>(widget(form().Text_zodiac));
     text.setFocus(Qt::TabFocusReason);

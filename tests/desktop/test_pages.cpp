@@ -187,8 +187,10 @@ TEST_F(Pages, InkStandsAlikeOnPaperAndInThePreview) {
         QImage const screen =
             drawn(pictures, preview, preview_inch, desktop::PageDevice::screen, pixels);
         int inked = 0;
-        for (double y = 0; y < 11.5; y += 0.5) {
-            for (double x = 0; x < 8; x += 0.5) {
+        for (int row = 0; row < 23; ++row) {
+            for (int column = 0; column < 16; ++column) {
+                double const x = column * 0.5;
+                double const y = row * 0.5;
                 QRectF const square{x, y, 0.5, 0.5};
                 double const on_paper = ink(paper, paper_inch, square);
                 double const on_screen = ink(screen, preview_inch, square);

@@ -1,5 +1,7 @@
 """Rows that a day is made of: each says what the hand does and what the same is for the pilot."""
 
+import time
+
 from day import Row
 from desk import wait_for
 from model import TWIPS
@@ -41,11 +43,16 @@ def answered(row, value):
 
 
 def moved(operation, name):
-    """Asks for what the window's bar stands at."""
+    """Asks for what the window's bar stands at. That is read once it stands still: what the hand
+    does and what is asked reach the program by two ways, and a question may come first."""
 
     def requests(day):
         bar = day.hand.node(name).get_value_iface()
-        return [ask(operation, name, value=int(bar.get_current_value()))]
+        before, now = None, bar.get_current_value()
+        while now != before:
+            time.sleep(0.1)
+            before, now = now, bar.get_current_value()
+        return [ask(operation, name, value=int(now))]
 
     return requests
 

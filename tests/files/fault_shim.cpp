@@ -42,10 +42,9 @@ bool below_the_folder(char const* path) {
 }
 
 bool below_the_folder(int descriptor) {
-    char link[64] = "/proc/self/fd/";
-    std::strcat(link, std::to_string(descriptor).c_str());
+    std::string const link = "/proc/self/fd/" + std::to_string(descriptor);
     char path[4096];
-    auto const length = ::readlink(link, path, sizeof path - 1);
+    auto const length = ::readlink(link.c_str(), path, sizeof path - 1);
     if (length < 0) return false;
     path[length] = '\0';
     return below_the_folder(path);

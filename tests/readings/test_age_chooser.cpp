@@ -114,6 +114,15 @@ TEST(AgeChooser, AClickOnAnAgeLetsTheGridFollow) {
     EXPECT_EQ(clicked.text("Label_Lal_Kitab.Caption"), "KUJA (6 / 6 ans)");
 }
 
+TEST(AgeChooser, AsksAgainAfterItWasClosedOverAnAge) {
+    Chooser chooser;
+    chooser.hover(label(12));
+    EXPECT_EQ(prompt(chooser), "12 ans");
+    chooser.ask({{"op", "close"}, {"form", "choix_age"}});
+    chooser.click("Label_age");
+    EXPECT_EQ(prompt(chooser), "Choisissez un âge");
+}
+
 TEST(AgeChooser, AClickOnAnEmptyCellRefreshesAtTheAgeInForce) {
     Chooser chooser;
     chooser.ask({{"op", "close"}, {"form", "choix_age"}});
