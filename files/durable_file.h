@@ -24,6 +24,11 @@ std::string read_file(std::filesystem::path const& path, std::string const& show
 void write_file(std::filesystem::path const& path, std::string_view bytes,
                 std::string const& shown_as);
 
+/// Like write_file, but leaves a file of that name as it is.
+/// @return false where there is one; nothing has been written then.
+bool write_new_file(std::filesystem::path const& path, std::string_view bytes,
+                    std::string const& shown_as);
+
 /// Moves a file, replacing any file of the target's name. Throws FatalError where it cannot be
 /// moved, or not with certainty; it then stands whole in one of the two places.
 void move_file(std::filesystem::path const& source, std::filesystem::path const& target,

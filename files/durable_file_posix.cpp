@@ -1,6 +1,7 @@
 // The operating system's calls where names are bytes, each result looked at.
 #include <array>
 #include <cerrno>
+#include <cstdio>
 #include <utility>
 
 #include <fcntl.h>
@@ -118,6 +119,44 @@ void flush_folder(std::filesystem::path const& folder, char const* attempted,
     }
 }
 
+enum class Existing { replaced, kept };
+
+int rename_to(std::filesystem::path const& from, std::filesystem::path const& to,
+              Existing existing) {
+    if (existing == Existing::kept) {
+        int const renamed =
+            ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE);
+        // Some disks know no such rename. There what was looked at before has to do.
+        if (renamed == 0 || (errno != EINVAL && errno != ENOSYS)) return renamed;
+    }
+    return ::rename(from.c_str(), to.c_str());
+}
+
+// False where a file is there that is kept.
+bool write_whole(std::filesystem::path const& path, std::string_view bytes,
+                 std::string const& shown_as, Existing existing) {
+    auto const folder = path.parent_path();
+    auto const unfinished_path = folder / unfinished_file;
+    Descriptor file{open_file(unfinished_path, O_WRONLY | O_CREAT | O_TRUNC)};
+    if (!file.is_open()) fail(attempt::writing, shown_as, errno);
+    Unfinished unfinished{unfinished_path};
+    // Whom the old file was closed to, the new one is closed to as well.
+    struct stat old {};
+    if (::stat(path.c_str(), &old) == 0 && ::fchmod(file.number(), old.st_mode & 07777U) != 0) {
+        fail(attempt::writing, shown_as, errno);
+    }
+    if (!write_all(file.number(), bytes)) fail(attempt::writing, shown_as, errno);
+    if (!flush(file.number())) fail(attempt::writing, shown_as, errno);
+    if (file.close_fails()) fail(attempt::writing, shown_as, errno);
+    if (rename_to(unfinished_path, path, existing) != 0) {
+        if (existing == Existing::kept && errno == EEXIST) return false;
+        fail(attempt::writing, shown_as, errno);
+    }
+    unfinished.keep();
+    flush_folder(folder, attempt::writing, shown_as);
+    return true;
+}
+
 }  // namespace
 
 std::string read_file(std::filesystem::path const& path, std::string const& shown_as) {
@@ -141,23 +180,12 @@ std::string read_file(std::filesystem::path const& path, std::string const& show
 
 void write_file(std::filesystem::path const& path, std::string_view bytes,
                 std::string const& shown_as) {
-    auto const folder = path.parent_path();
-    auto const unfinished_path = folder / unfinished_file;
-    Descriptor file{open_file(unfinished_path, O_WRONLY | O_CREAT | O_TRUNC)};
-    if (!file.is_open()) fail(attempt::writing, shown_as, errno);
-    Unfinished unfinished{unfinished_path};
-    // Whom the old file was closed to, the new one is closed to as well.
-    struct stat old {};
-    if (::stat(path.c_str(), &old) == 0 && ::fchmod(file.number(), old.st_mode & 07777U) != 0) {
-        fail(attempt::writing, shown_as, errno);
-    }
-    if (!write_all(file.number(), bytes)) fail(attempt::writing, shown_as, errno);
-    if (!flush(file.number())) fail(attempt::writing, shown_as, errno);
-    if (file.close_fails()) fail(attempt::writing, shown_as, errno);
-    if (::rename(unfinished_path.c_str(), path.c_str()) != 0)
-        fail(attempt::writing, shown_as, errno);
-    unfinished.keep();
-    flush_folder(folder, attempt::writing, shown_as);
+    write_whole(path, bytes, shown_as, Existing::replaced);
+}
+
+bool write_new_file(std::filesystem::path const& path, std::string_view bytes,
+                    std::string const& shown_as) {
+    return write_whole(path, bytes, shown_as, Existing::kept);
 }
 
 void move_file(std::filesystem::path const& source, std::filesystem::path const& target,

@@ -156,11 +156,15 @@ class MarkTakenOff {
     DWORD m_attributes;
 };
 
+enum class Existing { replaced, kept };
+
 // Write-through: the change of names has reached the disk when the call returns.
-DWORD rename_error(std::filesystem::path const& source, std::filesystem::path const& target) {
+DWORD rename_error(std::filesystem::path const& source, std::filesystem::path const& target,
+                   Existing existing) {
+    DWORD const replace = existing == Existing::replaced ? MOVEFILE_REPLACE_EXISTING : 0;
     return error_of(target, [&] {
         return ::MoveFileExW(system_path(source).c_str(), system_path(target).c_str(),
-                             MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
+                             replace | MOVEFILE_WRITE_THROUGH);
     });
 }
 
@@ -200,6 +204,26 @@ DWORD write_error(std::filesystem::path const& path, std::string_view bytes) {
     return done ? ERROR_SUCCESS : ::GetLastError();
 }
 
+// Who may read the file is told by its folder, as everywhere on Windows.
+// False where a file is there that is kept.
+bool write_whole(std::filesystem::path const& path, std::string_view bytes,
+                 std::string const& shown_as, Existing existing) {
+    auto const unfinished_path = path.parent_path() / unfinished_file;
+    DWORD const not_written = write_error(unfinished_path, bytes);
+    Unfinished unfinished{unfinished_path};
+    if (not_written != ERROR_SUCCESS) {
+        fail_at(attempt::writing, shown_as, unfinished_path, not_written);
+    }
+    MarkTakenOff const old{path};
+    DWORD const not_renamed = rename_error(unfinished_path, path, existing);
+    bool const is_there =
+        not_renamed == ERROR_ALREADY_EXISTS || not_renamed == ERROR_FILE_EXISTS;
+    if (existing == Existing::kept && is_there) return false;
+    if (not_renamed != ERROR_SUCCESS) fail_at(attempt::writing, shown_as, path, not_renamed);
+    unfinished.keep();
+    return true;
+}
+
 }  // namespace
 
 std::string read_file(std::filesystem::path const& path, std::string const& shown_as) {
@@ -220,25 +244,20 @@ std::string read_file(std::filesystem::path const& path, std::string const& show
     }
 }
 
-// Who may read the file is told by its folder, as everywhere on Windows.
 void write_file(std::filesystem::path const& path, std::string_view bytes,
                 std::string const& shown_as) {
-    auto const unfinished_path = path.parent_path() / unfinished_file;
-    DWORD const not_written = write_error(unfinished_path, bytes);
-    Unfinished unfinished{unfinished_path};
-    if (not_written != ERROR_SUCCESS) {
-        fail_at(attempt::writing, shown_as, unfinished_path, not_written);
-    }
-    MarkTakenOff const old{path};
-    DWORD const not_renamed = rename_error(unfinished_path, path);
-    if (not_renamed != ERROR_SUCCESS) fail_at(attempt::writing, shown_as, path, not_renamed);
-    unfinished.keep();
+    write_whole(path, bytes, shown_as, Existing::replaced);
+}
+
+bool write_new_file(std::filesystem::path const& path, std::string_view bytes,
+                    std::string const& shown_as) {
+    return write_whole(path, bytes, shown_as, Existing::kept);
 }
 
 void move_file(std::filesystem::path const& source, std::filesystem::path const& target,
                std::string const& shown_as) {
     MarkTakenOff replaced{target};
-    DWORD const number = rename_error(source, target);
+    DWORD const number = rename_error(source, target, Existing::replaced);
     if (number == ERROR_SUCCESS) return replaced.forget();
     if (number == ERROR_NOT_SAME_DEVICE) {
         write_file(target, read_file(source, shown_as), shown_as);

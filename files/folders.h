@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 namespace navarun {
 
@@ -28,6 +29,14 @@ bool FileExists(std::filesystem::path const& path);
 /// Whether nothing stands at `path`, so that nothing is lost by a file written there. Throws
 /// FatalError where the system cannot tell: what cannot be looked at is not free.
 bool is_free(std::filesystem::path const& path, std::string const& shown_as);
+
+/// Writes a new file into `folder`, a path below the program's: under the name `stem` and
+/// `extension` or, where something stands there, the first free one of "stem (2)", "stem
+/// (3)"... Throws FatalError as write_file does.
+/// @return the name it has now
+std::string write_under_free_name(Program& program, std::string const& folder,
+                                  std::string const& stem, std::string const& extension,
+                                  std::string_view bytes);
 
 /// Makes the missing folders and removes what a killed run left in them. A folder that cannot
 /// be made is not told: the first file in it will be.

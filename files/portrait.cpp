@@ -11,6 +11,7 @@
 #include "files/durable_file.h"
 #include "files/fitted_picture.h"
 #include "files/folder_entries.h"
+#include "files/folders.h"
 #include "shell/image_store.h"
 #include "shell/program.h"
 
@@ -35,20 +36,6 @@ void name_portrait(Program& program) {
         shown != nullptr ? *shown : (std::get<bool>(portrait) ? "Vrai" : "Faux");
 }
 
-// A name that no file of the portrait folder bears yet.
-std::string free_portrait_name(Program& program, std::filesystem::path const& dropped) {
-    // As a record can hold it.
-    std::string name = fitted_to_code_page(path_text(dropped.filename()));
-    std::ranges::replace_if(name, is_refused_in_file_names, '_');
-    auto const named = file_path(name);
-    for (int number = 2; !is_free(program.path_of(program.folders.dossier_image + name), name);
-         ++number) {
-        name = path_text(named.stem()) + " (" + std::to_string(number) + ")" +
-               path_text(named.extension());
-    }
-    return name;
-}
-
 void take_dropped_file(Program& program, std::filesystem::path const& dropped) {
     std::string const dropped_name = path_text(dropped.filename());
     bool const picture =
@@ -57,9 +44,13 @@ void take_dropped_file(Program& program, std::filesystem::path const& dropped) {
         transient_message(program, "Ce fichier n'est pas une image !", 2);
         return;
     }
-    std::string const name = free_portrait_name(program, dropped);
-    write_file(program.path_of(program.folders.dossier_image + name),
-               read_file(dropped, dropped_name), name);
+    // As a record can hold it.
+    std::string portable = fitted_to_code_page(dropped_name);
+    std::ranges::replace_if(portable, is_refused_in_file_names, '_');
+    auto const named = file_path(portable);
+    std::string const name =
+        write_under_free_name(program, program.folders.dossier_image, path_text(named.stem()),
+                              path_text(named.extension()), read_file(dropped, dropped_name));
     refresh_list(program);
     choose_portrait(program, name);
 }

@@ -168,6 +168,13 @@ int rename(char const* from, char const* to) noexcept {
     return next<int (*)(char const*, char const*)>("rename")(from, to);
 }
 
+int renameat2(int from_folder, char const* from, int to_folder, char const* to,
+              unsigned flags) noexcept {
+    if (strikes("rename", from)) return -1;
+    return next<int (*)(int, char const*, int, char const*, unsigned)>("renameat2")(
+        from_folder, from, to_folder, to, flags);
+}
+
 int unlink(char const* path) noexcept {
     if (strikes("unlink", path)) return -1;
     return next<int (*)(char const*)>("unlink")(path);

@@ -63,6 +63,16 @@ TEST_F(DurableFile, ReplacesAnOlderOneWhateverItsLength) {
 }
 
 // Who reads the old file meanwhile reads it to its end.
+TEST_F(DurableFile, ANewOneLeavesAnOlderOneAsItWas) {
+    write_file(at("a.gif"), "ancien", "a.gif");
+    EXPECT_FALSE(write_new_file(at("a.gif"), "nouveau", "a.gif"));
+    EXPECT_EQ(content("a.gif"), "ancien");
+    EXPECT_EQ(names(), std::vector<std::string>{"a.gif"});
+    EXPECT_TRUE(write_new_file(at("b.gif"), "nouveau", "b.gif"));
+    EXPECT_EQ(content("b.gif"), "nouveau");
+    EXPECT_EQ(names(), (std::vector<std::string>{"a.gif", "b.gif"}));
+}
+
 TEST_F(DurableFile, AnOpenOldFileStaysWholeForItsReader) {
     put("a.fcy", "ancien");
     std::ifstream reader{at("a.fcy"), std::ios::binary};

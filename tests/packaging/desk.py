@@ -73,10 +73,11 @@ class Desk:
 
     def _open_display(self):
         reading, writing = os.pipe()
-        # -ac: the unprivileged user may show windows there too.
+        # -ac: the unprivileged user may show windows there too. -noreset: a display whose only guest
+        # so far has gone begins anew, and loses who was just coming.
         subprocess.Popen(
             ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x1024x24", "-ac",
-             "-nolisten", "tcp"],
+             "-noreset", "-nolisten", "tcp"],
             pass_fds=[writing], stderr=subprocess.DEVNULL)
         os.close(writing)
         with os.fdopen(reading) as answer:
