@@ -46,12 +46,13 @@ bool is_free(std::filesystem::path const& path, std::string const& shown_as) {
 std::string write_under_free_name(Program& program, std::string const& folder,
                                   std::string const& stem, std::string const& extension,
                                   std::string_view bytes) {
-    std::string name = stem + extension;
-    for (int number = 2;; ++number) {
+    for (int number = 1;; ++number) {
+        std::string name = stem;
+        if (number > 1) name += " (" + std::to_string(number) + ")";
+        name += extension;
         auto const path = program.path_of(folder + name);
         // Another program may be quicker than the look.
         if (is_free(path, name) && write_new_file(path, bytes, name)) return name;
-        name = stem + " (" + std::to_string(number) + ")" + extension;
     }
 }
 
