@@ -8,7 +8,6 @@ namespace navarun::test {
 
 namespace {
 
-
 struct Today {
     char const* name;
     char const* date;
