@@ -26,8 +26,8 @@ struct NearLetter {
     char16_t letter;  // of the code page
 };
 
-// The Latin letters that the code page lacks, in ascending order, each with the letter that it
-// has, as many of its marks as can be on it.
+// The Latin letters that the code page lacks, in ascending order, each with the letter of the
+// code page that keeps the most of its marks.
 // clang-format off
 constexpr NearLetter near_letters[] = {
     {0x0100, 0x41}, {0x0101, 0x61}, {0x0102, 0x41}, {0x0103, 0x61}, {0x0104, 0x41},
