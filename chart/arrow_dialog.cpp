@@ -93,8 +93,9 @@ void MnuFleche_click(Program& program) {
 }
 
 void choose_width(Program& program, screen::Mouse const& mouse) {
-    int const sample = static_cast<int>(std::nearbyint(mouse.y)) / sample_step;
-    if (mouse.button != 1 || sample >= sample_count) return;
+    double const place = std::trunc(std::nearbyint(mouse.y) / sample_step);
+    if (mouse.button != 1 || place < 0 || place >= sample_count) return;
+    int const sample = static_cast<int>(place);
     frame_sample(program.fleche, sample * sample_step, (sample + 1) * sample_step);
     program.arrow.epaisseur_fleche = width_of_sample(sample);
 }

@@ -2,11 +2,9 @@
 #include "chart/kundali.h"
 
 #include <array>
-#include <cmath>
-#include <cstdint>
-#include <limits>
 
 #include "chart/colour_schemes.h"
+#include "core/small_number.h"
 #include "files/settings.h"
 #include "shell/image_store.h"
 #include "shell/program.h"
@@ -69,16 +67,6 @@ void chart_mouse_down(Program& program, screen::Mouse const& mouse) {
     arrow.delta_y = 0;
 }
 
-// The height of a drag is a small number; beyond it the run has always ended.
-int sixteen_bits(double number) {
-    using Limits = std::numeric_limits<std::int16_t>;
-    if (number < Limits::min() || number > Limits::max()) {
-        throw FatalError{"Une flèche a été tirée trop loin du dessin.",
-                         "Dépassement de capacité."};
-    }
-    return static_cast<int>(number);
-}
-
 void chart_mouse_move(Program& program, screen::Mouse const& mouse) {
     if (!program.fleche.Visible) return;
     auto& arrow = program.arrow;
@@ -86,7 +74,8 @@ void chart_mouse_move(Program& program, screen::Mouse const& mouse) {
     if (!arrow.fleche_fixee) chart.clear_rubber();
     if (mouse.button != 1) return;
     arrow.delta_x = mouse.x - arrow.depart_x;
-    arrow.delta_y = sixteen_bits(std::nearbyint(mouse.y - arrow.depart_y));
+    arrow.delta_y =
+        small_number(mouse.y - arrow.depart_y, "Une flèche a été tirée trop loin du dessin.");
     chart.set_draw_width(arrow.epaisseur_fleche);
     Segment const rubber{{arrow.depart_x, arrow.depart_y}, {mouse.x, mouse.y}};
     chart.draw(screen::Layer::rubber, in_arrow_colour(program, rubber));

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <limits>
 #include <utility>
 
 namespace navarun::text {
@@ -178,9 +177,10 @@ bool equal_ignoring_case(std::string_view one, std::string_view other) {
 int number_of(std::string_view text) {
     // A sign is no digit, though the conversion would take one.
     if (text.empty() || text.front() < '0' || text.front() > '9') return 0;
-    int number = 0;
-    auto const [stop, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc::result_out_of_range ? std::numeric_limits<int>::max() : number;
+    constexpr int greatest = 99'999'999;
+    int number = greatest;
+    std::from_chars(text.data(), text.data() + text.size(), number);  // too great: untouched
+    return std::min(number, greatest);
 }
 
 std::string padded(int number, int digits) {

@@ -32,7 +32,7 @@ std::string proper_case(std::string_view text);
 bool equal_ignoring_case(std::string_view one, std::string_view other);
 
 /// The number that `text` starts with: its leading decimal digits, 0 where there is none.
-/// More digits than an int holds give the greatest int.
+/// Greater numbers give 99 999 999, so that dates, ages and lords still add up to an int.
 int number_of(std::string_view text);
 /// `number` with leading zeros to at least `digits` digits. REQUIRES number >= 0.
 std::string padded(int number, int digits);

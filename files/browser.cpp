@@ -3,9 +3,9 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 #include "core/dialogue.h"
+#include "core/small_number.h"
 #include "core/text.h"
 #include "files/durable_file.h"
 #include "files/file_list.h"
@@ -163,8 +163,9 @@ void list_key_down(Program& program, int code) {
 constexpr int below_the_pointer = 180;
 
 void list_mouse_move(Program& program, screen::Mouse const& mouse) {
-    program.browser.deplace_x = static_cast<int>(std::nearbyint(mouse.x));
-    program.browser.deplace_y = static_cast<int>(std::nearbyint(mouse.y)) + below_the_pointer;
+    constexpr char const* attempted = "Une fiche a été tirée trop loin de sa liste.";
+    program.browser.deplace_x = small_number(mouse.x, attempted);
+    program.browser.deplace_y = small_number(mouse.y + below_the_pointer, attempted);
 }
 
 }  // namespace

@@ -20,7 +20,8 @@ inline constexpr std::string_view unfinished_file = "navarun.tmp";
 std::string read_file(std::filesystem::path const& path, std::string const& shown_as);
 
 /// Writes the whole content, replacing any file of that name. Throws FatalError where it cannot
-/// be written; the old file then stands as it was.
+/// be written; the old file then stands as it was, or where only its lasting is in doubt, the
+/// new one, whole.
 void write_file(std::filesystem::path const& path, std::string_view bytes,
                 std::string const& shown_as);
 

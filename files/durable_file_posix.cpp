@@ -110,13 +110,26 @@ class Unfinished {
     std::filesystem::path m_path;
 };
 
-// A change of names reaches the disk with its folder.
+// A change of names reaches the disk with its folder. Some shared folders cannot be flushed;
+// there the name changed is all that can be had.
 void flush_folder(std::filesystem::path const& folder, char const* attempted,
                   std::string const& shown_as) {
     Descriptor const directory{open_file(folder, O_RDONLY | O_DIRECTORY)};
-    if (!directory.is_open() || !flush(directory.number())) {
-        fail(attempted, shown_as, errno);
-    }
+    bool const flushed = directory.is_open() && flush(directory.number());
+    if (!flushed && errno != EINVAL && errno != ENOTSUP) fail(attempted, shown_as, errno);
+}
+
+// Whom the file at `path` is closed to, the open one is closed to as well. True also where
+// there is no file; a disk of another owner allows no change, and needs none where they are
+// equal.
+bool takes_rights_of(std::filesystem::path const& path, int descriptor) {
+    constexpr mode_t rights = 07777;
+    struct stat old {};
+    if (::stat(path.c_str(), &old) != 0) return true;
+    struct stat now {};
+    if (::fstat(descriptor, &now) != 0) return false;
+    if (((old.st_mode ^ now.st_mode) & rights) == 0) return true;
+    return ::fchmod(descriptor, old.st_mode & rights) == 0;
 }
 
 enum class Existing { replaced, kept };
@@ -140,11 +153,7 @@ bool write_whole(std::filesystem::path const& path, std::string_view bytes,
     Descriptor file{open_file(unfinished_path, O_WRONLY | O_CREAT | O_TRUNC)};
     if (!file.is_open()) fail(attempt::writing, shown_as, errno);
     Unfinished unfinished{unfinished_path};
-    // Whom the old file was closed to, the new one is closed to as well.
-    struct stat old {};
-    if (::stat(path.c_str(), &old) == 0 && ::fchmod(file.number(), old.st_mode & 07777U) != 0) {
-        fail(attempt::writing, shown_as, errno);
-    }
+    if (!takes_rights_of(path, file.number())) fail(attempt::writing, shown_as, errno);
     if (!write_all(file.number(), bytes)) fail(attempt::writing, shown_as, errno);
     if (!flush(file.number())) fail(attempt::writing, shown_as, errno);
     if (file.close_fails()) fail(attempt::writing, shown_as, errno);

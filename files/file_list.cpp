@@ -73,7 +73,7 @@ bool has_ending(std::string_view name, Endings const& endings) {
 
 bool is_refused_in_file_names(char character) {
     constexpr std::string_view refused = "/\\:*?\"<>|";
-    return static_cast<unsigned char>(character) < ' ' ||
+    return static_cast<unsigned char>(character) < ' ' || character == '\x7F' ||
            refused.find(character) != refused.npos;
 }
 

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,6 +15,9 @@ enum class EntryKind { nothing, file, folder };
 
 /// What stands at `path`; nothing also where the system does not let it be seen.
 EntryKind kind_of(std::filesystem::path const& path);
+
+/// Whether nothing stands at `path`; none where the system does not let it be seen.
+std::optional<bool> nothing_at(std::filesystem::path const& path);
 
 /// Makes a folder and those above it that are missing. One that cannot be made is not told.
 void make_folders(std::filesystem::path const& folder);

@@ -24,6 +24,13 @@ EntryKind kind_of(std::filesystem::path const& path) {
     return std::filesystem::is_directory(status) ? EntryKind::folder : EntryKind::file;
 }
 
+std::optional<bool> nothing_at(std::filesystem::path const& path) {
+    std::error_code unreadable;
+    auto const kind = std::filesystem::status(path, unreadable).type();
+    if (kind == std::filesystem::file_type::none) return {};
+    return kind == std::filesystem::file_type::not_found;
+}
+
 void make_folders(std::filesystem::path const& folder) {
     std::error_code not_looked_at;
     std::filesystem::create_directories(folder, not_looked_at);

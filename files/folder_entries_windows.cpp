@@ -27,6 +27,13 @@ EntryKind kind_of(std::filesystem::path const& path) {
     return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? EntryKind::folder : EntryKind::file;
 }
 
+std::optional<bool> nothing_at(std::filesystem::path const& path) {
+    if (kind_of(path) != EntryKind::nothing) return false;
+    DWORD const error = ::GetLastError();
+    if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND) return true;
+    return {};
+}
+
 void make_folders(std::filesystem::path const& folder) {
     if (kind_of(folder) != EntryKind::nothing) return;
     auto const above = folder.parent_path();

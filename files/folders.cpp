@@ -4,8 +4,8 @@
 #include <array>
 #include <string_view>
 
-#include "core/fatal_error.h"
 #include "files/durable_file.h"
+#include "files/failed_file.h"
 #include "files/folder_entries.h"
 #include "shell/program.h"
 
@@ -33,14 +33,12 @@ bool FileExists(std::filesystem::path const& path) {
 }
 
 bool is_free(std::filesystem::path const& path, std::string const& shown_as) {
-    std::error_code unreadable;
-    auto const kind = std::filesystem::status(path, unreadable).type();
-    if (kind == std::filesystem::file_type::not_found) return true;
-    if (kind == std::filesystem::file_type::none) {
-        throw FatalError{"L'écriture du fichier « " + shown_as + " » a échoué.",
-                         "Ce qui porte peut-être déjà ce nom n'a pas pu être regardé."};
+    auto const nothing = nothing_at(path);
+    if (!nothing) {
+        fail(attempt::writing, shown_as,
+             "Ce qui porte peut-être déjà ce nom n'a pas pu être regardé.");
     }
-    return false;
+    return *nothing;
 }
 
 std::string write_under_free_name(Program& program, std::string const& folder,

@@ -36,6 +36,18 @@ void name_portrait(Program& program) {
         shown != nullptr ? *shown : (std::get<bool>(portrait) ? "Vrai" : "Faux");
 }
 
+// Copies a picture to the portraits, under a name that outlives the code page of a record.
+// @return that name
+std::string copied_as_a_record_holds_it(Program& program, std::filesystem::path const& picture,
+                                        std::string const& name) {
+    std::string portable = fitted_to_code_page(name);
+    std::ranges::replace_if(portable, is_refused_in_file_names, '_');
+    auto const named = file_path(portable);
+    return write_under_free_name(program, program.folders.dossier_image,
+                                 path_text(named.stem()), path_text(named.extension()),
+                                 read_file(picture, name));
+}
+
 void take_dropped_file(Program& program, std::filesystem::path const& dropped) {
     std::string const dropped_name = path_text(dropped.filename());
     bool const picture =
@@ -44,13 +56,7 @@ void take_dropped_file(Program& program, std::filesystem::path const& dropped) {
         transient_message(program, "Ce fichier n'est pas une image !", 2);
         return;
     }
-    // As a record can hold it.
-    std::string portable = fitted_to_code_page(dropped_name);
-    std::ranges::replace_if(portable, is_refused_in_file_names, '_');
-    auto const named = file_path(portable);
-    std::string const name =
-        write_under_free_name(program, program.folders.dossier_image, path_text(named.stem()),
-                              path_text(named.extension()), read_file(dropped, dropped_name));
+    std::string const name = copied_as_a_record_holds_it(program, dropped, dropped_name);
     refresh_list(program);
     choose_portrait(program, name);
 }
@@ -75,8 +81,12 @@ void affiche_image_ajustee(Program& program, std::string const& name) {
 }
 
 void choose_portrait(Program& program, std::string const& name) {
-    program.consultation.fichier_photo = name;
-    affiche_image_ajustee(program, name);
+    // Under a name that its record cannot hold, the portrait would not be found again.
+    bool const holdable = fitted_to_code_page(name) == name;
+    auto const path = program.path_of(program.folders.dossier_image + name);
+    std::string const held = holdable ? name : copied_as_a_record_holds_it(program, path, name);
+    program.consultation.fichier_photo = held;
+    affiche_image_ajustee(program, held);
     couleur_Disk_Rouge_Vert(program);
     leave_image_mode(program);
     close_browser(program);

@@ -18,7 +18,8 @@ extern Endings const portrait_endings;
 void affiche_image_ajustee(Program& program, std::string const& name);
 
 /// Takes a picture of the portrait folder as the portrait, as a choice in the list does: the
-/// record has changes to be saved, and the browser closes.
+/// record has changes to be saved, and the browser closes. Of a name that no record can hold a
+/// copy under a fitting one is taken.
 void choose_portrait(Program& program, std::string const& name);
 
 /// The double click, the pointer and the files dropped on the portrait.

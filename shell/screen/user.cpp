@@ -24,7 +24,8 @@ void require_usable(Control const& control) {
 // Keys that write nothing never enter a text; a line end does in a text of several lines.
 bool is_text(EntryControl const& entry, char32_t character) {
     bool const line_end = character == U'\r' || character == U'\n';
-    return character >= U' ' || (line_end && entry.kind() == Kind::text_area);
+    bool const is_control = character < U' ' || character == 0x7F;
+    return !is_control || (line_end && entry.kind() == Kind::text_area);
 }
 
 // One line is what a field shows and what a file name holds: the line end that comes along when
@@ -44,16 +45,20 @@ void fire(std::function<void()> const& event) {
 
 }  // namespace
 
-void User::focus(Control& control) {
+// Whatever she does but drop it lets go of what is dragged.
+void User::begin_act(Control const& control) {
     m_screen->end_drag();
     require_usable(control);
+}
+
+void User::focus(Control& control) {
+    begin_act(control);
     if (!control.takes_focus()) throw Refused{control.full_name() + " ne prend pas le focus"};
     m_screen->move_focus(control);
 }
 
 void User::touch(Control& control) {
-    m_screen->end_drag();
-    require_usable(control);
+    begin_act(control);
     if (control.takes_focus()) m_screen->move_focus(control);
 }
 
@@ -85,7 +90,7 @@ bool User::press(EntryControl& control, char32_t character) {
 }
 
 void User::edit(EntryControl& control, std::string_view text, int caret) {
-    require_usable(control);
+    begin_act(control);
     if (control.read_only()) refuse_kind(control);
     std::string taken = fitted_to_code_page(text);
     if (control.kind() != Kind::text_area) taken = in_one_line(std::move(taken));
@@ -93,7 +98,7 @@ void User::edit(EntryControl& control, std::string_view text, int caret) {
 }
 
 void User::set_text(EntryControl& control, std::string_view text) {
-    require_usable(control);
+    begin_act(control);
     if (control.read_only()) refuse_kind(control);
     m_screen->move_focus(control);
     std::string taken = fitted_to_code_page(text);
@@ -105,7 +110,7 @@ void User::set_text(EntryControl& control, std::string_view text) {
 }
 
 void User::set_position(ScrollBar& control, int value) {
-    require_usable(control);
+    begin_act(control);
     if (value < control.Minimum || value > control.Maximum) {
         throw BadValue{"valeur hors de l'étendue"};
     }
@@ -114,7 +119,7 @@ void User::set_position(ScrollBar& control, int value) {
 }
 
 void User::drag(ScrollBar& control, int value) {
-    require_usable(control);
+    begin_act(control);
     if (value < control.Minimum || value > control.Maximum) {
         throw BadValue{"valeur hors de l'étendue"};
     }
@@ -123,19 +128,19 @@ void User::drag(ScrollBar& control, int value) {
 }
 
 void User::set_option(OptionButton& control, bool chosen) {
-    require_usable(control);
+    begin_act(control);
     m_screen->move_focus(control);
     control.Value = chosen;
 }
 
 void User::set_check(CheckBox& control, int mark) {
-    require_usable(control);
+    begin_act(control);
     m_screen->move_focus(control);
     control.Value = mark;
 }
 
 void User::choose(Control& control, int entry) {
-    require_usable(control);
+    begin_act(control);
     if (auto* const combo = dynamic_cast<Combo*>(&control)) {
         auto const& entries = combo->entries();
         if (entry < 0 || entry >= static_cast<int>(entries.size())) {
@@ -162,7 +167,7 @@ void User::choose(Control& control, std::string_view entry) {
     std::vector<std::string> const* entries = nullptr;
     if (auto* const combo = dynamic_cast<Combo*>(&control)) entries = &combo->entries();
     if (auto* const list = dynamic_cast<List*>(&control)) entries = &list->entries();
-    require_usable(control);
+    begin_act(control);
     if (entries == nullptr) refuse_kind(control);
     auto const found = std::ranges::find(*entries, entry);
     if (found == entries->end()) throw UnknownEntry{std::string{entry}};
@@ -234,7 +239,7 @@ void User::drop(Control& control) {
 }
 
 void User::drop_file(Control& control, std::string const& path) {
-    require_usable(control);
+    begin_act(control);
     if (!control.on_file_drop) refuse_kind(control);
     control.on_file_drop(path);
 }
@@ -254,6 +259,7 @@ void User::mouse(Control& control, std::string_view event, Mouse const& where) {
 }
 
 void User::close(Form& form) {
+    m_screen->end_drag();
     if (!form.Visible) throw Refused{form.full_name() + " n'est pas ouverte"};
     auto const* const modal = m_screen->modal_form();
     if (modal != nullptr && modal != &form) {

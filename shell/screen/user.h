@@ -82,6 +82,8 @@ class User {
     int key_held() const { return m_key_held; }
 
   private:
+    /// What each act on a control begins with.
+    void begin_act(Control const& control);
     /// Focus by a click: moves it where the control takes it.
     void touch(Control& control);
     /// Return and Escape click the button that its window ties to them.

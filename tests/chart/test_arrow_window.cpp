@@ -144,6 +144,9 @@ constexpr WidthCase widths[] = {
     {"just_below_the_fifth", 1075, 3},
     {"bottom_edge", 1150, 3},
     {"far_below", 30000, 3},
+    {"beyond_all_whole_numbers", 1e300, 3},
+    {"above_the_first", -300, 3},
+    {"beyond_all_whole_numbers_above", -1e300, 3},
 };
 class SampleWidth : public testing::TestWithParam<WidthCase> {};
 TEST_P(SampleWidth, IsTakenByAPressOnIt) {

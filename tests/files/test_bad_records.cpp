@@ -1,5 +1,6 @@
 // Files that no save of this program made: each is read, or ends the run with its report; no
 // file changes.
+#include <array>
 #include <ostream>
 
 #include "tests/files/practice.h"
@@ -67,6 +68,27 @@ TEST(BadRecord, AQuoteInANameNeverLoadsAsAnotherPerson) {
     EXPECT_EQ(answer.value("error", ""), "fatal")
         << answer << " shows " << visit.text("Text_prenom.Text");
     EXPECT_EQ(visit.record("a.fcy"), bytes);
+}
+
+// Digits without end where two are meant: read as the greatest number there is, which no sum
+// of days, months and years carries any further.
+TEST(BadRecord, AnOverlongDatePartIsNoEndWithoutAReport) {
+    std::string const overlong = "\"2999999999\"";
+    for (std::size_t part = 0; part < 4; ++part) {
+        std::array<std::string, 4> date{"\"17\"", "\"05\"", "\"19\"", "\"62\""};
+        date[part] = overlong;
+        Practice visit;
+        std::string bytes = "\"Zoe\",\"Dupont\"";
+        for (auto const& text : date) bytes += "," + text;
+        visit.put("a.fcy", bytes += ",0,\"\",\"\"\r\n");
+        visit.open_browser();
+        visit.choose("File_Fichier", "a.fcy");
+        Json const answer = visit.ask({{"op", "dblclick"}, {"control", "File_Fichier"}});
+        if (!answer.contains("ok")) {
+            EXPECT_NE(report_of(answer), "") << answer;
+        }
+        EXPECT_EQ(visit.record("a.fcy"), bytes);
+    }
 }
 
 TEST(BadRecord, AnEmptyFileLeavesThePersonOnTheScreen) {

@@ -358,6 +358,38 @@ TEST_F(Browsing, TheDragBeginsJustUnderThePointer) {
     EXPECT_EQ(visit.number("Label_deplace.Top"), 630);
 }
 
+// As the way down the chart, the place over the list is counted in sixteen bits.
+TEST_F(Browsing, APointerBeyondSixteenBitsEndsTheRun) {
+    visit.click("Charge(1)");
+    Json const answer = visit.fatal({{"op", "mouse"},
+                                     {"control", "File_Fichier"},
+                                     {"event", "move"},
+                                     {"button", 0},
+                                     {"x", 1e300},
+                                     {"y", 450}});
+    EXPECT_NE(report_of(answer), "");
+}
+
+TEST_F(Browsing, WhateverElseSheDoesLetsGoOfTheDraggedRecord) {
+    Json const acts[] = {
+        {{"op", "set"}, {"control", "Text_prenom"}, {"value", "Zoe"}},
+        {{"op", "set"}, {"control", "HScroll_age"}, {"value", 40}},
+        {{"op", "drag"}, {"control", "HScroll_age"}, {"value", 41}},
+        {{"op", "choose"}, {"control", "Combo_jourNaiss"}, {"index", 2}},
+        {{"op", "click"}, {"control", "Text_nom"}},
+    };
+    for (auto const& act : acts) {
+        visit.click("Charge(1)");
+        visit.choose("File_Fichier", "Dupont Zoe.fcy");
+        visit.key("File_Fichier", key_control);
+        ASSERT_NE(visit.program().screen.dragged(), nullptr) << act;
+        EXPECT_TRUE(visit.ask(act).contains("ok")) << act;
+        EXPECT_EQ(visit.drop("Charge(2)")["error"], "refused") << act;
+        EXPECT_EQ(visit.record("Dupont Zoe.fcy"), record_of("Zoe", "Dupont")) << act;
+        visit.click("Charge(1)");
+    }
+}
+
 TEST_F(Browsing, ARecordThatWentAwayBeforeTheDropEndsTheRun) {
     visit.put("Dupont Zoe.fcy", record_of("Zoe", "Ancienne"), 2);
     visit.click("Charge(1)");

@@ -153,6 +153,20 @@ TEST_F(Portrait, ADroppedPictureWithForeignLettersIsFoundAgainByItsRecord) {
     EXPECT_TRUE(visit.text("Picture_PHOTO.Picture").starts_with("file:"));
 }
 
+TEST_F(Portrait, AChosenPictureWithForeignLettersIsFoundAgainByItsRecord) {
+    put_file(visit.images() / "Łódź.jpg", jpeg(10, 10));
+    visit.name_person("Zoe", "Dupont");
+    visit.click("Bouton_Image");
+    visit.choose("File_Fichier", "Łódź.jpg");
+    visit.double_click("File_Fichier");
+    EXPECT_EQ(visit.text("fichier_photo"), "Lódz.jpg");
+    EXPECT_EQ(file_content(visit.images() / "Łódź.jpg"), jpeg(10, 10));
+    visit.save();
+    visit.load("Dupont Zoe.fcy");
+    EXPECT_EQ(visit.text("fichier_photo"), "Lódz.jpg");
+    EXPECT_EQ(visit.text("Picture_PHOTO.Picture"), "file:Lódz.jpg");
+}
+
 // A double quote would end the field of the record.
 TEST_F(Portrait, ADroppedPictureWithAQuoteInItsNameNeverSpoilsTheRecord) {
     visit.name_person("Zoe", "Dupont");
