@@ -106,13 +106,17 @@ std::optional<YearMonthDay> read_date_parts(std::string_view text) {
 std::string write_date(Date date) { return write_date(YearMonthDay{date}); }
 
 std::string write_date(YearMonthDay date) {
-    std::string text = "00/00/0000";
+    return std::string{date_text(unsigned{date.day()}, unsigned{date.month()},
+                                 static_cast<unsigned>(int{date.year()}))};
+}
+
+DateText date_text(unsigned day_number, unsigned month_number, unsigned year_number) {
+    DateText text{{'0', '0', '/', '0', '0', '/', '0', '0', '0', '0'}};
     auto const put = [&text](std::size_t at, unsigned number) {
-        std::ranges::copy(two_digits[number], &text[at]);
+        std::ranges::copy(two_digits[number], &text.characters[at]);
     };
-    auto const year_number = static_cast<unsigned>(int{date.year()});
-    put(0, unsigned{date.day()});
-    put(3, unsigned{date.month()});
+    put(0, day_number);
+    put(3, month_number);
     put(6, year_number / 100 % 100);
     put(8, year_number % 100);
     return text;
@@ -143,14 +147,5 @@ YearMonthDay add_years(YearMonthDay date, int count) {
 int days_between(Date from, Date to) { return static_cast<int>((to - from).count()); }
 
 bool is_leap_day(std::string_view date_text) { return date_text.starts_with("29/02"); }
-
-std::string fevrier29(std::string date_text) {
-    if (date_text.size() < 10) return date_text;
-    std::string_view const view = date_text;
-    int const in_month = text::number_of(view.substr(3, 2));
-    int const in_year = text::number_of(view.substr(6));
-    if (in_month != 2 || Bissextile_G(in_year)) date_text.replace(0, 2, "29");
-    return date_text;
-}
 
 }  // namespace navarun

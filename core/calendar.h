@@ -64,8 +64,10 @@ constexpr int NbrJours(int month, int year) {
 /// Whether a date text begins with 29/02: the birthday that most years do not have.
 bool is_leap_day(std::string_view date_text);
 
-/// The month dates of a person born on 29 February: `date_text` with the day 29, except in
-/// February of a common year. A text too short for a date comes back as it is.
-std::string fevrier29(std::string date_text);
+/// The day under which a person born on 29 February reads the date of a month: the 29th, but
+/// `day` in the February of a common year.
+constexpr int fevrier29(int day, int month, int year) {
+    return month != 2 || Bissextile_G(year) ? 29 : day;
+}
 
 }  // namespace navarun

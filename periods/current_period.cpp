@@ -1,6 +1,7 @@
 // Marking the period's row.
 #include "periods/current_period.h"
 
+#include "core/date_parts.h"
 #include "periods/cycle_lords.h"
 #include "periods/emphasis.h"
 #include "periods/step_in_progress.h"
@@ -11,14 +12,16 @@ namespace navarun {
 void Trouve_ActuelMahaDasha(Program& program) {
     auto& form = program.form1;
     auto& consultation = program.consultation;
-    auto const anniversary = read_date(form.Label_anneedefile.Caption.get());
+    std::string_view const first_day = form.Label_anneedefile.Caption.get();
+    auto const anniversary = read_date(first_day);
     if (!anniversary) return;
-    auto const date_of_cell = [&form](int cell) {
-        return read_date(form.Label_DashaDate(cell).Caption.get());
+    auto const text_of_cell = [&form](int cell) -> std::string_view {
+        return form.Label_DashaDate(cell).Caption.get();
     };
     Date const today = program.platform.today();
     if (in_year_in_progress(*anniversary, today)) {
         // Where no sequence had a case, the column may stand at 0 for cell 12.
+        auto const date_of_cell = [&](int cell) { return read_date_parts(text_of_cell(cell)); };
         int const start = consultation.colonne_age_mod == 0 ? 12 : consultation.colonne_age_mod;
         int const after = cell_after_today(date_of_cell, start, today);
         int const marked = cell_before(after);
@@ -28,7 +31,7 @@ void Trouve_ActuelMahaDasha(Program& program) {
         consultation.colonne_dasha = after;
         return;
     }
-    auto const cell = cell_starting_on(date_of_cell, *anniversary);
+    auto const cell = cell_starting_on(text_of_cell, first_day);
     if (!cell) return;
     // The period's start cell has its colour already and needs no mark.
     if (form.Label_Dasha(*cell).ForeColor.get() == program.periods.couleur_dasha) return;

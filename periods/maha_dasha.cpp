@@ -1,14 +1,12 @@
 // Writing a sequence's step into the cells.
 #include "periods/maha_dasha.h"
 
-#include <optional>
-#include <utility>
+#include <cstddef>
 
-#include "core/date_parts.h"
-#include "core/text.h"
 #include "periods/current_period.h"
 #include "periods/cycle_lords.h"
 #include "periods/dasha_schedule.h"
+#include "periods/row_dates.h"
 #include "periods/year_month_lords.h"
 #include "shell/program.h"
 
@@ -32,18 +30,14 @@ void run_sequence(Program& program, int column, DashaStep const& step) {
 
     auto& start_text = consultation.date_annee_courante;
     if (repairs_leap_days(column) && is_leap_day(start_text)) start_text.replace(0, 2, "28");
-    auto const start = read_date_parts(start_text);
     auto const name = program.name_of_lord(periods.seigneur_dasha);
     bool const shows_29th =
         repairs_leap_days(column) && is_leap_day(consultation.birth.date_naissance());
+    auto const dates = row_dates(start_text, step.months, shows_29th);
     int cell = consultation.colonne_age_mod;
-    for (int i = 0; i < 12; ++i, cell = cell_after(cell)) {
+    for (std::size_t i = 0; i < 12; ++i, cell = cell_after(cell)) {
         form.Label_Dasha(cell).Caption = name;
-        if (start) {
-            std::string date = write_date(add_months(*start, periods.pas_mois));
-            if (shows_29th) date = fevrier29(std::move(date));
-            form.Label_DashaDate(cell).Caption = std::move(date);
-        }
+        if (dates) form.Label_DashaDate(cell).Caption = std::string_view{(*dates)[i]};
         periods.pas_mois += step.months;
     }
 }

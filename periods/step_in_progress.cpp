@@ -10,7 +10,7 @@ bool in_year_in_progress(Date anniversary, Date today) {
     return days >= 1 && days <= 366;
 }
 
-int cell_after_today(DateOfCell const& date_of_cell, int start_cell, Date today) {
+int cell_after_today(DateOfCell const& date_of_cell, int start_cell, YearMonthDay today) {
     int cell = start_cell;
     do {
         auto const date = date_of_cell(cell);
@@ -21,9 +21,10 @@ int cell_after_today(DateOfCell const& date_of_cell, int start_cell, Date today)
     return start_cell;
 }
 
-std::optional<int> cell_starting_on(DateOfCell const& date_of_cell, Date anniversary) {
+std::optional<int> cell_starting_on(TextOfCell const& text_of_cell,
+                                    std::string_view anniversary) {
     for (int cell = 1; cell <= 12; ++cell) {
-        if (date_of_cell(cell) == anniversary) return cell;
+        if (text_of_cell(cell) == anniversary) return cell;
     }
     return {};
 }

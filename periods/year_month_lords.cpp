@@ -8,6 +8,7 @@
 #include "core/text.h"
 #include "periods/cycle_lords.h"
 #include "periods/emphasis.h"
+#include "periods/row_dates.h"
 #include "shell/program.h"
 
 namespace navarun {
@@ -43,8 +44,8 @@ std::optional<int> first_cell_of_todays_month(Program& program, Date today) {
     int const days = days_between(*first_day, today);
     if (days < 0 || days > 365) return {};
     for (int cell = 1; cell <= 12; ++cell) {
-        auto const start = read_date(form.Label_MoisDate(cell).Caption.get());
-        if (start && month_of(*start) == month_of(today)) return cell;
+        auto const start = read_date_parts(form.Label_MoisDate(cell).Caption.get());
+        if (start && start->month() == YearMonthDay{today}.month()) return cell;
     }
     return {};
 }
@@ -108,20 +109,15 @@ void Seigneur_Mois(Program& program) {
     }
 
     consultation.colonne_age = cell_of_age(consultation.palais_index, periods.age_scroll);
-    auto const first_day = read_date_parts(consultation.date_annee_courante);
-    bool const shows_29th = is_leap_day(consultation.birth.date_naissance());
+    auto const dates = row_dates(consultation.date_annee_courante, 1,
+                                 is_leap_day(consultation.birth.date_naissance()));
     int cell = consultation.colonne_age;
-    for (auto const& name : periods.noms_mois) {
+    for (std::size_t i = 0; i < periods.noms_mois.size(); ++i, cell = cell_after(cell)) {
         auto& month = form.Label_mois(cell);
         month.Visible = true;
-        month.Caption = name;
-        if (first_day) {
-            std::string date = write_date(add_months(*first_day, periods.pas_mois));
-            if (shows_29th) date = fevrier29(std::move(date));
-            form.Label_MoisDate(cell).Caption = std::move(date);
-        }
+        month.Caption = periods.noms_mois[i];
+        if (dates) form.Label_MoisDate(cell).Caption = std::string_view{(*dates)[i]};
         ++periods.pas_mois;
-        cell = cell_after(cell);
     }
 
     form.Label_mois(consultation.colonne_age).ForeColor = screen::standard_colour(9);

@@ -2,6 +2,7 @@
 #include <array>
 #include <optional>
 #include <ostream>
+#include <string>
 #include <string_view>
 
 #include <gtest/gtest.h>
@@ -123,29 +124,39 @@ TEST(CellAfterTodaySweep, EachDayOfThePeriodFollowsItsStep) {
     }
 }
 
+/// The texts of those cells, as a search by the text asks for them.
+struct CellTexts : std::array<std::string, 12> {
+    explicit CellTexts(CellDates const& dates) {
+        for (std::size_t i = 0; i < size(); ++i) at(i) = dates[i] ? write_date(*dates[i]) : "";
+    }
+    std::string_view operator()(int cell) const {
+        return at(static_cast<std::size_t>(cell - 1));
+    }
+};
+
 TEST(CellStartingOn, FindsTheStepOfTheAnniversary) {
-    CellDates const dates = period_dates("15/03/2020", 9, 6);
-    EXPECT_EQ(cell_starting_on(dates, day("15/03/2020")), 9);
-    EXPECT_EQ(cell_starting_on(dates, day("15/09/2021")), 12);
-    EXPECT_EQ(cell_starting_on(dates, day("15/03/2022")), 1);
-    EXPECT_EQ(cell_starting_on(dates, day("15/09/2025")), 8);
+    CellTexts const texts{period_dates("15/03/2020", 9, 6)};
+    EXPECT_EQ(cell_starting_on(texts, "15/03/2020"), 9);
+    EXPECT_EQ(cell_starting_on(texts, "15/09/2021"), 12);
+    EXPECT_EQ(cell_starting_on(texts, "15/03/2022"), 1);
+    EXPECT_EQ(cell_starting_on(texts, "15/09/2025"), 8);
 }
 
 TEST(CellStartingOn, FindsNoneWhereNoStepStartsThatDay) {
-    CellDates const dates = period_dates("15/03/2020", 9, 6);
-    EXPECT_EQ(cell_starting_on(dates, day("16/03/2020")), std::nullopt);
-    EXPECT_EQ(cell_starting_on(dates, day("15/03/2019")), std::nullopt);
-    EXPECT_EQ(cell_starting_on(dates, day("15/03/2026")), std::nullopt);
+    CellTexts const texts{period_dates("15/03/2020", 9, 6)};
+    EXPECT_EQ(cell_starting_on(texts, "16/03/2020"), std::nullopt);
+    EXPECT_EQ(cell_starting_on(texts, "15/03/2019"), std::nullopt);
+    EXPECT_EQ(cell_starting_on(texts, "15/03/2026"), std::nullopt);
 }
 
 TEST(CellStartingOn, OfTwoCellsTheLowerIsFound) {
     CellDates dates = period_dates("15/03/2020", 9, 6);
     dates.at(4) = day("15/03/2020");
-    EXPECT_EQ(cell_starting_on(dates, day("15/03/2020")), 5);
+    EXPECT_EQ(cell_starting_on(CellTexts{dates}, "15/03/2020"), 5);
 }
 
 TEST(CellStartingOn, CellsWithoutADateAreNotFound) {
-    EXPECT_EQ(cell_starting_on(CellDates{}, day("15/03/2020")), std::nullopt);
+    EXPECT_EQ(cell_starting_on(CellTexts{CellDates{}}, "15/03/2020"), std::nullopt);
 }
 
 }  // namespace
