@@ -194,10 +194,9 @@ void load(Program& program) {
     window.Label_horloge.Caption = write_date(today);
     show_time(program);
     window.Stacking = screen::Stacking::topmost;
-    window.chkWeek.Value = 0;
-    window.chkFerie.Value = 0;
-    // The lists fire as they are filled.
-    values.cal_calcul = true;
+    // The marks of the last opening go without a drawing of their own: the one below shows all.
+    window.chkWeek.Value.preset(0);
+    window.chkFerie.Value.preset(0);
     window.cAn.clear();
     for (int year = first_listed_year; year <= last_listed_year; ++year) {
         window.cAn.add(std::to_string(year));
@@ -206,7 +205,6 @@ void load(Program& program) {
     for (int month = 1; month <= 12; ++month) {
         window.cMois.add(std::string{month_name(month)});
     }
-    values.cal_calcul = false;
     set_chosen(values, today);
     values.cal_case = -1;
     CalculDate(program);
