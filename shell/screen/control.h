@@ -500,9 +500,10 @@ class PictureBox : public PlacedControl {
     std::vector<DrawnLine> const& lines(Layer layer) const;
     void draw(Layer layer, DrawnLine const& line);
     void clear_rubber();
-    /// Shows a page, its width filling that of the box; null is none.
+    /// Shows a page, its width filling that of the box.
     void show_page(Page page);
     void clear_page();
+    /// The page shown; null is none.
     std::shared_ptr<Page const> const& page() const { return m_page; }
     /// Told of each page shown, for whoever keeps a record.
     std::function<void(Page const&)> on_page;
@@ -529,7 +530,8 @@ class Frame : public TextControl {
 };
 
 /// Whether an option button is the chosen one. Choosing it takes the choice from the others of
-/// its container; Click fires where the value differs, whoever sets it.
+/// its container; Click fires where the button becomes the chosen one, whoever sets it, and not
+/// where it loses the choice or has it already.
 class OptionButton;
 class OptionValue {
   public:
