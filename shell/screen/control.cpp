@@ -22,7 +22,7 @@ Control::Control(Form& form, Control* container, Kind kind, std::string_view nam
       m_name{name},
       m_index{index},
       Visible{*this, design.visible},
-      Enabled{*this, design.enabled},
+      Enabled{*this, true},
       Tag{*this, std::string{design.tag}},
       SpokenName{*this, {}} {
     if (kind != Kind::form) form.m_controls.push_back(this);

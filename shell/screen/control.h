@@ -73,7 +73,6 @@ struct Design {
     bool border = false;
     Alignment align = Alignment::left;
     bool visible = true;
-    bool enabled = true;
     std::string_view tooltip{};
     std::string_view tag{};
     Picture picture{};

@@ -6,6 +6,7 @@
 
 #include "core/code_page.h"
 #include "core/text.h"
+#include "shell/screen/keys.h"
 
 namespace navarun::screen {
 
@@ -215,11 +216,9 @@ void User::key(Control& control, int code) {
 }
 
 void User::press_button_of(Form const& form, int code) {
-    constexpr int enter = 13;
-    constexpr int escape = 27;
-    Button* const button = code == enter    ? form.default_button
-                           : code == escape ? form.cancel_button
-                                            : nullptr;
+    Button* const button = code == key::enter    ? form.default_button
+                           : code == key::escape ? form.cancel_button
+                                                 : nullptr;
     if (button != nullptr && button->can_be_used()) fire(button->on_click);
 }
 
