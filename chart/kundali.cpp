@@ -58,6 +58,18 @@ screen::DrawnLine in_arrow_colour(Program const& program, Segment const& segment
             .colour = program.arrow.couleur_fleche};
 }
 
+// Draws the arrow of the last drag, for good.
+void dessine_fleche(Program& program) {
+    auto& arrow = program.arrow;
+    arrow.fleche_fixee = true;
+    Point const start{arrow.depart_x, arrow.depart_y};
+    Point const tip{start.x + arrow.delta_x, start.y + arrow.delta_y};
+    for (auto const& segment : arrow_shape(start, tip, arrow.style_fleche)) {
+        program.form1.Picture_KUNDALI.draw(screen::Layer::persistent,
+                                           in_arrow_colour(program, segment));
+    }
+}
+
 void chart_mouse_down(Program& program, screen::Mouse const& mouse) {
     auto& arrow = program.arrow;
     arrow.fleche_fixee = false;
@@ -125,17 +137,6 @@ void Choix_Couleur_Kundali(Program& program) {
         form.Frame_FileFichier.Visible = false;
         form.Command_reset.Picture = picture::begin_anew;
         form.Command_reset.ToolTipText = "Initialise";
-    }
-}
-
-void dessine_fleche(Program& program) {
-    auto& arrow = program.arrow;
-    arrow.fleche_fixee = true;
-    Point const start{arrow.depart_x, arrow.depart_y};
-    Point const tip{start.x + arrow.delta_x, start.y + arrow.delta_y};
-    for (auto const& segment : arrow_shape(start, tip, arrow.style_fleche)) {
-        program.form1.Picture_KUNDALI.draw(screen::Layer::persistent,
-                                           in_arrow_colour(program, segment));
     }
 }
 

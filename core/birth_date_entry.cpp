@@ -45,6 +45,23 @@ void Mois30_31(Program& program) {
     }
 }
 
+// The common repair after a change of day, month or year.
+void annee99(Program& program) {
+    auto& form = program.form1;
+    auto& consultation = program.consultation;
+    auto& birth = consultation.birth;
+    Mois30_31(program);
+    birth.rebuild_date_naissance();
+    if (auto const date = read_date(birth.date_naissance())) {
+        Date const first_day = add_years(*date, 1);
+        Date const last_day_before = first_day - std::chrono::days{1};
+        form.Label_anneedefile.Caption = write_date(first_day);
+        consultation.fin_annee_defile = last_day_before;
+        form.Label_anneedefile_Suite.Caption = write_date(add_years(last_day_before, 1));
+    }
+    consultation.annee_calcul = birth.year();
+}
+
 void jour_change(Program& program) {
     auto& form = program.form1;
     JG_reset(program);
@@ -248,22 +265,6 @@ void Command_DateNow_click(Program& program) {
 }
 
 }  // namespace
-
-void annee99(Program& program) {
-    auto& form = program.form1;
-    auto& consultation = program.consultation;
-    auto& birth = consultation.birth;
-    Mois30_31(program);
-    birth.rebuild_date_naissance();
-    if (auto const date = read_date(birth.date_naissance())) {
-        Date const first_day = add_years(*date, 1);
-        Date const last_day_before = first_day - std::chrono::days{1};
-        form.Label_anneedefile.Caption = write_date(first_day);
-        consultation.fin_annee_defile = last_day_before;
-        form.Label_anneedefile_Suite.Caption = write_date(add_years(last_day_before, 1));
-    }
-    consultation.annee_calcul = birth.year();
-}
 
 void write_date_combos(Program& program) {
     auto& form = program.form1;

@@ -63,6 +63,14 @@ void set_first_date(Program& program) {
     write_date_combos(program);
 }
 
+// Nothing is saved.
+void Quitter_Navarun(Program& program) {
+    program.dialogue.titre_dialogue = "QUITTER";
+    program.dialogue.texte_dialogue = "VOULEZ-VOUS QUITTER N.A.V.A.R.U.N ?";
+    boiteDialogue(program);
+    if (program.dialogue.reponse_dialogue == 1) throw ProgramEnded{};
+}
+
 }  // namespace
 
 void Form_Load(Program& program) {
@@ -104,13 +112,6 @@ void Form_Load(Program& program) {
     cycle20ans(program);
     change_couleurAge(program, "vert");
     triDeva(program);
-}
-
-void Quitter_Navarun(Program& program) {
-    program.dialogue.titre_dialogue = "QUITTER";
-    program.dialogue.texte_dialogue = "VOULEZ-VOUS QUITTER N.A.V.A.R.U.N ?";
-    boiteDialogue(program);
-    if (program.dialogue.reponse_dialogue == 1) throw ProgramEnded{};
 }
 
 void wire_start_up(Program& program) {

@@ -47,6 +47,10 @@ bool shows_records(Program const& program) {
     return std::ranges::find(record_list_grounds, ground) != record_list_grounds.end();
 }
 
+bool browser_shows_images(Program const& program) {
+    return program.form1.File_Fichier.BackColor.get() == image_list_ground;
+}
+
 void count_entries(Program& program) {
     program.form1.Label_Nbr_Fiche.Caption = std::to_string(program.form1.File_Fichier.count());
 }
@@ -106,6 +110,32 @@ void Charge_click(Program& program, int folder) {
     show_folder(program, program.folders.dossier_actif, record_endings);
     count_entries(program);
     leave_image_mode(program);
+}
+
+// Opens the panel on the portraits, or closes it.
+void Bouton_Image_click(Program& program) {
+    auto& form = program.form1;
+    form.Text_Cherche.Text = "";
+    form.Frame_Internet.Visible = false;
+    apercu_impression_Invisible(program);
+    form.Text_definition_palais.Visible = false;
+    form.Label_Nbr_Fiche.Caption = "";
+    form.File_Fichier.ToolTipText = "";
+    if (form.Frame_FileFichier.Visible) {
+        form.Frame_FileFichier.Visible = false;
+        give_reset_its_role_back(form);
+        return;
+    }
+    form.Command_reset.Picture = picture::erase_portrait;
+    form.Frame_FileFichier.Visible = true;
+    form.Command_reset.ToolTipText = "Supprime l'image sélectionnée";
+    show_folder(program, program.folders.dossier_image, portrait_endings);
+    program.screen.move_focus(form.Text_Cherche);
+    form.File_Fichier.BackColor = image_list_ground;
+    form.File_Fichier.ForeColor = screen::black;
+    count_entries(program);
+    form.File_Fichier.ListIndex = -1;
+    program.record_values.fichier_selectionne.clear();
 }
 
 void deplace_fichier(Program& program) {
@@ -174,10 +204,6 @@ void refresh_list(Program& program) {
     program.record_values.fichier_selectionne.clear();
 }
 
-bool browser_shows_images(Program const& program) {
-    return program.form1.File_Fichier.BackColor.get() == image_list_ground;
-}
-
 void leave_image_mode(Program& program) {
     program.form1.File_Fichier.BackColor = record_ground(program.form1);
 }
@@ -187,31 +213,6 @@ void close_browser(Program& program) {
     form.Frame_FileFichier.Visible = false;
     form.Text_Cherche.Text = "";
     give_reset_its_role_back(form);
-}
-
-void Bouton_Image_click(Program& program) {
-    auto& form = program.form1;
-    form.Text_Cherche.Text = "";
-    form.Frame_Internet.Visible = false;
-    apercu_impression_Invisible(program);
-    form.Text_definition_palais.Visible = false;
-    form.Label_Nbr_Fiche.Caption = "";
-    form.File_Fichier.ToolTipText = "";
-    if (form.Frame_FileFichier.Visible) {
-        form.Frame_FileFichier.Visible = false;
-        give_reset_its_role_back(form);
-        return;
-    }
-    form.Command_reset.Picture = picture::erase_portrait;
-    form.Frame_FileFichier.Visible = true;
-    form.Command_reset.ToolTipText = "Supprime l'image sélectionnée";
-    show_folder(program, program.folders.dossier_image, portrait_endings);
-    program.screen.move_focus(form.Text_Cherche);
-    form.File_Fichier.BackColor = image_list_ground;
-    form.File_Fichier.ForeColor = screen::black;
-    count_entries(program);
-    form.File_Fichier.ListIndex = -1;
-    program.record_values.fichier_selectionne.clear();
 }
 
 void Efface_fichier(Program& program) {
