@@ -2,7 +2,8 @@
 #include "files/records.h"
 
 #include <algorithm>
-#include <array>
+#include <string>
+#include <variant>
 
 #include "chart/kundali.h"
 #include "chart/palace_colours.h"
@@ -14,6 +15,7 @@
 #include "files/address_book.h"
 #include "files/browser.h"
 #include "files/durable_file.h"
+#include "files/failed_file.h"
 #include "files/file_list.h"
 #include "files/portrait.h"
 #include "periods/age_scroll.h"
@@ -165,8 +167,8 @@ Record record_on_screen(Program& program) {
 
 void refuse_bad_file_name(std::string const& name) {
     if (std::ranges::none_of(name, is_refused_in_file_names)) return;
-    throw FatalError{"L'écriture du fichier « " + name + " » a échoué.",
-                     "Un nom de fichier ne prend aucun de ces signes : / \\ : * ? \" < > |"};
+    fail(attempt::writing, name,
+         "Un nom de fichier ne prend aucun de ces signes : / \\ : * ? \" < > |");
 }
 
 void load_selected_record(Program& program) {
