@@ -3,6 +3,7 @@
 
 #include "chart/kundali.h"
 #include "core/birth_date_entry.h"
+#include "core/date_parts.h"
 #include "core/dialogue.h"
 #include "files/address_book.h"
 #include "files/settings.h"
@@ -95,12 +96,8 @@ void Form_Load(Program& program) {
     consultation.annee_solaire = "1900";
     // The blanks round the stroke stay until the day or month is next written.
     birth.reword_jour_mois_anniv(birth.jour_naissance() + " / " + birth.mois_naissance());
-    Date const date = *read_date(birth.date_naissance());
-    Date const first_day = add_years(date, consultation.age_courant);
-    Date const last_day_before = first_day - std::chrono::days{1};
-    form.Label_anneedefile.Caption = write_date(first_day);
-    consultation.fin_annee_defile = last_day_before;
-    form.Label_anneedefile_Suite.Caption = write_date(add_years(last_day_before, 1));
+    show_cycle_year(program, *read_date_parts(birth.date_naissance()),
+                    consultation.age_courant);
     // So that the grid can turn true at the end.
     form.HScroll_age.Tag = "ROUGE";
     Position_solaire(program);

@@ -60,14 +60,16 @@ void grid_becomes_stale(Program& program) {
     tag = stale_grid.tag;
 }
 
+void show_end_of_year_from(Program& program, Date first_day) {
+    YearMonthDay const last_day_before{first_day - std::chrono::days{1}};
+    program.consultation.fin_annee_defile = last_day_before;
+    program.form1.Label_anneedefile_Suite.Caption = write_date(add_years(last_day_before, 1));
+}
+
 // The last day of the cycle year shown, from its first day.
 void follow_first_day(Program& program) {
-    auto& form = program.form1;
-    auto& end = program.consultation.fin_annee_defile;
-    auto const first_day = read_date(form.Label_anneedefile.Caption.get());
-    if (!first_day) return;
-    end = *first_day - std::chrono::days{1};
-    form.Label_anneedefile_Suite.Caption = write_date(add_years(YearMonthDay{*end}, 1));
+    auto const first_day = read_date(program.form1.Label_anneedefile.Caption.get());
+    if (first_day) show_end_of_year_from(program, *first_day);
 }
 
 void HScroll_age_change(Program& program) {
@@ -99,6 +101,12 @@ void HScroll_age_scroll(Program& program) {
 }
 
 }  // namespace
+
+void show_cycle_year(Program& program, YearMonthDay birth, int age) {
+    YearMonthDay const first_day = add_years(birth, age);
+    program.form1.Label_anneedefile.Caption = write_date(first_day);
+    show_end_of_year_from(program, first_day);
+}
 
 void defile_MahaDasha(Program& program) {
     auto const& consultation = program.consultation;
