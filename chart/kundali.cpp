@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "chart/colour_schemes.h"
+#include "files/browser.h"
 #include "files/settings.h"
 #include "shell/image_store.h"
 #include "shell/program.h"
@@ -135,8 +136,7 @@ void Choix_Couleur_Kundali(Program& program) {
     form.File_Fichier.Tag = to_text(form.File_Fichier.BackColor.get());
     if (form.File_Fichier.ForeColor.get() == screen::black) {
         form.Frame_FileFichier.Visible = false;
-        form.Command_reset.Picture = picture::begin_anew;
-        form.Command_reset.ToolTipText = "Initialise";
+        give_reset_its_role_back(form);
     }
 }
 

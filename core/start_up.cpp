@@ -6,6 +6,7 @@
 #include "core/date_parts.h"
 #include "core/dialogue.h"
 #include "files/address_book.h"
+#include "files/browser.h"
 #include "files/settings.h"
 #include "periods/age_scroll.h"
 #include "periods/cycle_window.h"
@@ -42,10 +43,7 @@ void give_pointers(Form1& form) {
 
 void give_portrait_and_folders(Form1& form) {
     form.Picture_PHOTO.Picture = picture::ganesha;
-    form.Charge(1).Picture = screen::Picture{"DOSSIER", 1};
-    form.Charge(1).ToolTipText = "Dossier 1 Actif";
-    form.Charge(2).Picture = screen::Picture{"DOSSIER", 4};
-    form.Charge(2).ToolTipText = "Dossier 2 Inactif";
+    show_folder_buttons(form, 1);
 }
 
 void refuse_second_instance(Program& program) {

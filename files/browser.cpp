@@ -42,6 +42,10 @@ constexpr std::array<FolderRow, 2> folder_rows{{
     {"DATA2/", "DATA1/", 2, "Dossier 1 Inactif", 3, "Dossier 2 Actif"},
 }};
 
+FolderRow const& row_of_folder(int folder) {
+    return folder_rows.at(static_cast<std::size_t>(folder - 1));
+}
+
 bool shows_records(Program const& program) {
     auto const ground = program.form1.File_Fichier.BackColor.get();
     return std::ranges::find(record_list_grounds, ground) != record_list_grounds.end();
@@ -56,25 +60,16 @@ void count_entries(Program& program) {
 }
 
 void make_folder_active(Program& program, int folder) {
-    auto const& row = folder_rows[static_cast<std::size_t>(folder - 1)];
-    auto& form = program.form1;
+    auto const& row = row_of_folder(folder);
     auto& folders = program.folders;
     folders.dossier_actif = folders.dossier_ressources + std::string{row.active};
     folders.dossier_autre = folders.dossier_ressources + std::string{row.other};
-    form.Charge(1).Picture = screen::Picture{"DOSSIER", row.picture_of_1};
-    form.Charge(1).ToolTipText = row.tooltip_of_1;
-    form.Charge(2).Picture = screen::Picture{"DOSSIER", row.picture_of_2};
-    form.Charge(2).ToolTipText = row.tooltip_of_2;
+    show_folder_buttons(program.form1, folder);
 }
 
 void show_folder(Program& program, std::string const& folder, Endings const& endings) {
     program.form1.File_Fichier.set_source(
         [&program, folder, &endings] { return list_files(program.path_of(folder), endings); });
-}
-
-void give_reset_its_role_back(Form1& form) {
-    form.Command_reset.Picture = picture::begin_anew;
-    form.Command_reset.ToolTipText = "Initialise";
 }
 
 // The record colour that the scheme left in the list's tag.
@@ -199,6 +194,19 @@ void list_mouse_move(Program& program, screen::Mouse const& mouse) {
 
 }  // namespace
 
+void show_folder_buttons(Form1& form, int active) {
+    auto const& row = row_of_folder(active);
+    form.Charge(1).Picture = screen::Picture{"DOSSIER", row.picture_of_1};
+    form.Charge(1).ToolTipText = row.tooltip_of_1;
+    form.Charge(2).Picture = screen::Picture{"DOSSIER", row.picture_of_2};
+    form.Charge(2).ToolTipText = row.tooltip_of_2;
+}
+
+void give_reset_its_role_back(Form1& form) {
+    form.Command_reset.Picture = picture::begin_anew;
+    form.Command_reset.ToolTipText = "Initialise";
+}
+
 void refresh_list(Program& program) {
     program.form1.File_Fichier.refresh();
     program.record_values.fichier_selectionne.clear();
@@ -225,13 +233,7 @@ void Efface_fichier(Program& program) {
     std::string const folder = browser_shows_images(program) ? program.folders.dossier_image
                                                              : program.folders.dossier_actif;
     program.record_values.fichier_selectionne = folder + entry;
-    program.dialogue.titre_dialogue = "EFFACER";
-    program.dialogue.texte_dialogue = "VOULEZ-VOUS EFFACER: ";
-    program.dialogue.texte_dialogue.append(text::line_break)
-        .append(text::upper(entry))
-        .append(" ?");
-    boiteDialogue(program);
-    if (program.dialogue.reponse_dialogue == 1) {
+    if (agrees_to_erase(program, entry)) {
         delete_file(program.path_of(folder + entry), entry);
         refresh_list(program);
     } else {

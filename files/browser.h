@@ -4,7 +4,15 @@
 
 namespace navarun {
 
+class Form1;
 class Program;
+
+/// Shows on the buttons of the two record folders which of them is active.
+/// @param active  1 or 2; another one is a programming error.
+void show_folder_buttons(Form1& form, int active);
+
+/// The reset button begins anew again, where it erased while a list was in front.
+void give_reset_its_role_back(Form1& form);
 
 /// Hides the panel, empties the search and gives the reset button its own role back.
 void close_browser(Program& program);
