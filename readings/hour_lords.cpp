@@ -60,10 +60,8 @@ std::vector<std::string> lord_lines(LordListing const& listing) {
         "Seigneur de l'heure: " + name_of(lord_of_hour(day_now, listing.hour)),
         "",
         "Heure   Di  Lu  Ma  Me  Je  Ve  Sa",
+        text::repeated("¯", 30),
     };
-    std::string overlines;
-    for (int i = 0; i < 30; ++i) overlines += "¯";
-    lines.push_back(overlines);
     for (int i = 0; i < 24; ++i) lines.push_back(hour_line((first_hour + i) % 24));
     lines.emplace_back();
     for (Date date = listing.first_day; date <= listing.last_day;

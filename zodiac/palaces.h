@@ -26,6 +26,6 @@ QualityRow const& row_of(Quality quality);
 std::string description_palais(int palace);
 
 /// The line of overlines that parts the blocks.
-std::string const& rule();
+std::string const& palace_rule();
 
 }  // namespace navarun
