@@ -14,12 +14,6 @@ using screen::Design;
 using screen::Place;
 using namespace window_design;
 
-std::vector<int> indexes(int first, int last) {
-    std::vector<int> all;
-    for (int i = first; i <= last; ++i) all.push_back(i);
-    return all;
-}
-
 // Ten rows of ten ages.
 constexpr int age_step_x = 420;
 constexpr int age_step_y = 330;
