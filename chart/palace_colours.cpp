@@ -1,8 +1,8 @@
 // Boxes of the palaces.
 #include "chart/palace_colours.h"
 
+#include "core/cells.h"
 #include "core/text.h"
-#include "periods/cycle_lords.h"
 #include "shell/image_store.h"
 #include "shell/program.h"
 #include "zodiac/palaces.h"

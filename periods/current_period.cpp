@@ -1,7 +1,7 @@
 // Marking the period's row.
 #include "periods/current_period.h"
 
-#include "periods/cycle_lords.h"
+#include "core/cells.h"
 #include "periods/emphasis.h"
 #include "periods/step_in_progress.h"
 #include "shell/program.h"
@@ -19,7 +19,7 @@ void Trouve_ActuelMahaDasha(Program& program) {
     Date const today = program.platform.today();
     if (in_year_in_progress(*anniversary, today)) {
         // Where no sequence had a case, the column may stand at 0 for cell 12.
-        int const start = consultation.colonne_age_mod == 0 ? 12 : consultation.colonne_age_mod;
+        int const start = cell_of_column(consultation.colonne_age_mod);
         int const after = cell_after_today(date_of_cell, start, today);
         int const marked = cell_before(after);
         emphasise(form.Label_Dasha(marked));

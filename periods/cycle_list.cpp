@@ -1,6 +1,7 @@
 // The lines of the cycle list.
 #include "periods/cycle_list.h"
 
+#include "core/cells.h"
 #include "core/text.h"
 #include "periods/cycle_lords.h"
 #include "periods/lord_circle.h"

@@ -4,10 +4,10 @@
 #include <optional>
 #include <utility>
 
+#include "core/cells.h"
 #include "core/date_parts.h"
 #include "core/text.h"
 #include "periods/current_period.h"
-#include "periods/cycle_lords.h"
 #include "periods/dasha_schedule.h"
 #include "periods/year_month_lords.h"
 #include "shell/program.h"

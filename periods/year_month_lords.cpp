@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "core/cells.h"
 #include "core/date_parts.h"
 #include "core/text.h"
 #include "periods/cycle_lords.h"

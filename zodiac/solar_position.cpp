@@ -3,9 +3,9 @@
 
 #include <optional>
 
+#include "core/cells.h"
 #include "core/julian_mode.h"
 #include "core/text.h"
-#include "periods/cycle_lords.h"
 #include "shell/program.h"
 #include "zodiac/eras.h"
 #include "zodiac/nakshatra.h"
