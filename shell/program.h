@@ -90,7 +90,8 @@ class Program {
     }
 
     /// The name of a lord as the grid shows it, in full or short.
-    /// @param lord  1..9. With full names anything below ends the run with a fatal error.
+    /// @param lord  1..9. With full names anything below ends the run with a fatal error; a
+    ///              number above is a programming error.
     std::string_view name_of_lord(int lord) const;
 
     /// Where a path from the application folder on lies.
