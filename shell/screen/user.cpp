@@ -238,18 +238,12 @@ void User::drop_file(Control& control, std::string const& path) {
     control.on_file_drop(path);
 }
 
-void User::mouse(Control& control, std::string_view event, Mouse const& where) {
-    static constexpr std::pair<std::string_view, std::function<void(Mouse const&)> Control::*>
-        events[]{
-            {"down", &Control::on_mouse_down},
-            {"move", &Control::on_mouse_move},
-            {"up", &Control::on_mouse_up},
-        };
-    auto const found =
-        std::ranges::find_if(events, [&](auto const& row) { return row.first == event; });
-    if (found == std::end(events)) throw BadValue{std::string{event}};
+void User::mouse(Control& control, MouseEvent event, Mouse const& where) {
     require_usable(control);
-    if (auto const& handler = control.*(found->second)) handler(where);
+    auto const& handler = event == MouseEvent::down   ? control.on_mouse_down
+                          : event == MouseEvent::move ? control.on_mouse_move
+                                                      : control.on_mouse_up;
+    if (handler) handler(where);
 }
 
 void User::close(Form& form) {
