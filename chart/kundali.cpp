@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <limits>
 
+#include "chart/arrow_shape.h"
 #include "chart/colour_schemes.h"
 #include "files/browser.h"
 #include "files/settings.h"

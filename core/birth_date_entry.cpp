@@ -2,6 +2,7 @@
 #include "core/birth_date_entry.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 #include <string>
 

@@ -1,6 +1,9 @@
 // The first calculation and the last question.
 #include "core/start_up.h"
 
+#include <algorithm>
+#include <array>
+
 #include "chart/kundali.h"
 #include "core/birth_date_entry.h"
 #include "core/date_parts.h"

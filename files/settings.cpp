@@ -1,6 +1,7 @@
 // The settings of the program.
 #include "files/settings.h"
 
+#include "core/lords.h"
 #include "files/delimited.h"
 #include "files/durable_file.h"
 #include "periods/maha_dasha.h"

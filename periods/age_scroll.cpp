@@ -1,9 +1,6 @@
 // The age bar and the state of the grid.
 #include "periods/age_scroll.h"
 
-#include <optional>
-#include <utility>
-
 #include "core/date_parts.h"
 #include "core/generate.h"
 #include "core/text.h"

@@ -1,7 +1,6 @@
 // Writing a sequence's step into the cells.
 #include "periods/maha_dasha.h"
 
-#include <optional>
 #include <utility>
 
 #include "core/cells.h"

@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "core/cells.h"
 #include "core/date_parts.h"

@@ -2,6 +2,7 @@
 #include "print/preview.h"
 
 #include <cmath>
+#include <utility>
 
 #include "chart/kundali.h"
 #include "core/calendar.h"

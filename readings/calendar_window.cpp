@@ -1,8 +1,8 @@
 // The grid of the calendar.
 #include "readings/calendar_window.h"
 
+#include <algorithm>
 #include <array>
-#include <cmath>
 #include <optional>
 
 #include "core/french_dates.h"

@@ -2,6 +2,7 @@
 #include "readings/destiny_palace.h"
 
 #include "core/cells.h"
+#include "core/lords.h"
 #include "core/text.h"
 #include "shell/program.h"
 

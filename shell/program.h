@@ -12,7 +12,6 @@
 #include "chart/arrow_values.h"
 #include "core/consultation.h"
 #include "core/file_path.h"
-#include "core/lords.h"
 #include "files/browser_values.h"
 #include "files/durable_file.h"
 #include "files/folders.h"

@@ -2,6 +2,8 @@
 // the chart stays in sight.
 #include "shell/small_windows.h"
 
+#include <array>
+
 #include "shell/window_design.h"
 
 namespace navarun {

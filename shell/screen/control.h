@@ -2,7 +2,6 @@
 // events that tie them to the operations. No toolkit stands here; one shows them from outside.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <functional>
 #include <memory>

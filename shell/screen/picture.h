@@ -1,7 +1,6 @@
 // Pictures by name: the model never holds pixels.
 #pragma once
 
-#include <compare>
 #include <string>
 #include <string_view>
 
