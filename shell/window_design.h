@@ -4,7 +4,8 @@
 
 #include <vector>
 
-#include "shell/screen/control.h"
+#include "shell/screen/colour.h"
+#include "shell/screen/design.h"
 
 namespace navarun::window_design {
 

@@ -23,4 +23,14 @@ class Picture {
     std::string m_name;
 };
 
+/// A picture file painted into a box, in pixels of the box.
+struct PaintedFile {
+    std::string path;
+    double x = 0;
+    double y = 0;
+    double width = 0;
+    double height = 0;
+    bool operator==(PaintedFile const&) const = default;
+};
+
 }  // namespace navarun::screen

@@ -6,7 +6,10 @@
 
 #include "core/code_page.h"
 #include "core/text.h"
+#include "shell/screen/choice.h"
+#include "shell/screen/entry.h"
 #include "shell/screen/keys.h"
+#include "shell/screen/list.h"
 
 namespace navarun::screen {
 

@@ -11,6 +11,11 @@
 
 namespace navarun::screen {
 
+class CheckBox;
+class EntryControl;
+class OptionButton;
+class ScrollBar;
+
 /// An act that no user could do: the control is hidden, disabled or read-only, its window is
 /// closed, or it does not take what was meant for it.
 class Refused : public std::runtime_error {
