@@ -1,7 +1,7 @@
 // Taking the values of the fields, and writing them again.
 #include "benchmarks/ready_fields.h"
 
-#include "periods/cycle_lords.h"
+#include "core/cells.h"
 
 namespace navarun {
 

@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "chart/arrow_shape.h"
 #include "chart/kundali.h"
 #include "shell/program.h"
 

@@ -24,6 +24,7 @@ inline constexpr int plain_line = 3;
 /// the shaft from `start` to `tip`, a dot at the corner, then for the two arrows both barbs,
 /// and for the filled one the lines of its head. Where both points are one, the head stands
 /// round it.
+/// @param style  one of the kinds above; any other draws what a plain line does.
 std::vector<Segment> arrow_shape(Point start, Point tip, int style);
 
 }  // namespace navarun

@@ -1,7 +1,6 @@
 // What the drawing of arrows remembers between two moves of the mouse.
 #pragma once
 
-#include "chart/arrow_shape.h"
 #include "shell/screen/colour.h"
 
 namespace navarun {

@@ -3,8 +3,10 @@
 
 #include <array>
 
+#include "chart/arrow_shape.h"
 #include "chart/colour_schemes.h"
 #include "core/small_number.h"
+#include "files/browser.h"
 #include "files/settings.h"
 #include "shell/image_store.h"
 #include "shell/program.h"
@@ -54,6 +56,18 @@ screen::DrawnLine in_arrow_colour(Program const& program, Segment const& segment
             .y2 = segment.to.y,
             .width = program.form1.Picture_KUNDALI.draw_width(),
             .colour = program.arrow.couleur_fleche};
+}
+
+// Draws the arrow of the last drag, for good.
+void dessine_fleche(Program& program) {
+    auto& arrow = program.arrow;
+    arrow.fleche_fixee = true;
+    Point const start{arrow.depart_x, arrow.depart_y};
+    Point const tip{start.x + arrow.delta_x, start.y + arrow.delta_y};
+    for (auto const& segment : arrow_shape(start, tip, arrow.style_fleche)) {
+        program.form1.Picture_KUNDALI.draw(screen::Layer::persistent,
+                                           in_arrow_colour(program, segment));
+    }
 }
 
 void chart_mouse_down(Program& program, screen::Mouse const& mouse) {
@@ -112,19 +126,7 @@ void Choix_Couleur_Kundali(Program& program) {
     form.File_Fichier.Tag = to_text(form.File_Fichier.BackColor.get());
     if (form.File_Fichier.ForeColor.get() == screen::black) {
         form.Frame_FileFichier.Visible = false;
-        form.Command_reset.Picture = picture::begin_anew;
-        form.Command_reset.ToolTipText = "Initialise";
-    }
-}
-
-void dessine_fleche(Program& program) {
-    auto& arrow = program.arrow;
-    arrow.fleche_fixee = true;
-    Point const start{arrow.depart_x, arrow.depart_y};
-    Point const tip{start.x + arrow.delta_x, start.y + arrow.delta_y};
-    for (auto const& segment : arrow_shape(start, tip, arrow.style_fleche)) {
-        program.form1.Picture_KUNDALI.draw(screen::Layer::persistent,
-                                           in_arrow_colour(program, segment));
+        give_reset_its_role_back(form);
     }
 }
 

@@ -14,9 +14,6 @@ void Choix_Couleur_Kundali(Program& program);
 /// Loads the chart's picture anew, which wipes what was drawn on it.
 void load_chart(Program& program);
 
-/// Draws the arrow of the last drag into the chart, for good.
-void dessine_fleche(Program& program);
-
 /// Where an arrow stands on the chart: wipes the chart and hides the arrow window.
 void efface_fleche(Program& program);
 

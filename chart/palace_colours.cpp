@@ -1,8 +1,8 @@
 // Boxes of the palaces.
 #include "chart/palace_colours.h"
 
+#include "core/cells.h"
 #include "core/text.h"
-#include "periods/cycle_lords.h"
 #include "shell/image_store.h"
 #include "shell/program.h"
 #include "zodiac/palaces.h"
@@ -11,30 +11,19 @@ namespace navarun {
 
 namespace {
 
+// Gives a palace's cell its box, or takes it: thin border and opaque ground.
+void set_box(screen::Label& palace, bool boxed) {
+    palace.Border = boxed;
+    palace.Opaque = boxed;
+}
+
 void colour_by_quality(screen::Label& palace) {
     int const number = text::number_of(palace.Caption.get());
     set_box(palace, true);
     if (number >= 1 && number <= 12) palace.BackColor = row_of(quality_of_palace(number)).back;
 }
 
-}  // namespace
-
-void set_box(screen::Label& palace, bool boxed) {
-    palace.Border = boxed;
-    palace.Opaque = boxed;
-}
-
-void take_boxes_off(Program& program) {
-    auto& form = program.form1;
-    int const sun_cell = program.consultation.palais_index;
-    bool const all = form.Label_Solaire(cell_after(sun_cell)).Border;
-    if (!all) {
-        set_box(form.Label_Solaire(sun_cell), false);
-        return;
-    }
-    for (int cell = 1; cell <= 12; ++cell) set_box(form.Label_Solaire(cell), false);
-}
-
+// Switches between the sun's cell in a green box and all twelve boxes coloured by quality.
 void categorie_couleur(Program& program) {
     auto& form = program.form1;
     int& sun_cell = program.consultation.palais_index;
@@ -52,6 +41,19 @@ void categorie_couleur(Program& program) {
         set_box(form.Label_Solaire(sun_cell), true);
         form.Label_Solaire(sun_cell).BackColor = row_of(Quality::benefic).back;
     }
+}
+
+}  // namespace
+
+void take_boxes_off(Program& program) {
+    auto& form = program.form1;
+    int const sun_cell = program.consultation.palais_index;
+    bool const all = form.Label_Solaire(cell_after(sun_cell)).Border;
+    if (!all) {
+        set_box(form.Label_Solaire(sun_cell), false);
+        return;
+    }
+    for (int cell = 1; cell <= 12; ++cell) set_box(form.Label_Solaire(cell), false);
 }
 
 void couleur_Disk_Rouge_Vert(Program& program) {

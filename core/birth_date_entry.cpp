@@ -2,15 +2,18 @@
 #include "core/birth_date_entry.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 #include <string>
 
 #include "chart/palace_colours.h"
+#include "core/date_parts.h"
 #include "core/dialogue.h"
 #include "core/generate.h"
 #include "core/julian_mode.h"
 #include "core/text.h"
 #include "core/weekday_lord.h"
+#include "periods/age_scroll.h"
 #include "periods/lord_circle.h"
 #include "periods/partial_cycle.h"
 #include "print/preview.h"
@@ -43,6 +46,17 @@ void Mois30_31(Program& program) {
     } else if (day.Text.get() == "00") {
         day.Text = "01";
     }
+}
+
+// The common repair after a change of day, month or year.
+void annee99(Program& program) {
+    auto& birth = program.consultation.birth;
+    Mois30_31(program);
+    birth.rebuild_date_naissance();
+    if (auto const date = read_date_parts(birth.date_naissance())) {
+        show_cycle_year(program, *date, 1);
+    }
+    program.consultation.annee_calcul = birth.year();
 }
 
 void jour_change(Program& program) {
@@ -117,33 +131,28 @@ void annee_change(Program& program) {
     trouverJourdeSemaine(program);
 }
 
-std::string today_day(Date today) { return text::padded(day_of(today), 2); }
-std::string today_month(Date today) { return text::padded(month_of(today), 2); }
-std::string today_century(Date today) { return text::padded(year_of(today) / 100, 2); }
-std::string today_year(Date today) { return text::padded(year_of(today) % 100, 2); }
-
 // One row for each of the four fields, in the order in which they are typed.
 struct DateField {
     screen::Combo Form1::*combo;
     void (*change)(Program&);
+    std::string const& (BirthDate::*part)() const;
     void (BirthDate::*store)(std::string_view);
-    bool two_digits;                // the part is stored in the format "00"
-    bool is_century;                // its choice shows the two captions of a century
-    bool part_of_birthday;          // day and month
-    bool leaving_repairs;           // leaving the field repairs the date
-    std::string (*of_today)(Date);  // what takes the place of a half-typed text
+    bool two_digits;        // the part is stored in the format "00"
+    bool is_century;        // its choice shows the two captions of a century
+    bool part_of_birthday;  // day and month
+    bool leaving_repairs;   // leaving the field repairs the date
 };
 
 // clang-format off
 constexpr std::array<DateField, 4> date_fields{{
-    {&Form1::Combo_jourNaiss, jour_change, &BirthDate::set_jour_naissance,
-     false, false, true, true, today_day},
-    {&Form1::Combo_moisNaiss, mois_change, &BirthDate::set_mois_naissance,
-     false, false, true, false, today_month},
-    {&Form1::Combo_AnNaiss1, siecle_change, &BirthDate::set_siecle_naissance,
-     true, true, false, false, today_century},
-    {&Form1::Combo_AnNaiss2, annee_change, &BirthDate::set_annee_naissance,
-     true, false, false, false, today_year},
+    {&Form1::Combo_jourNaiss, jour_change,
+     &BirthDate::jour_naissance, &BirthDate::set_jour_naissance, false, false, true, true},
+    {&Form1::Combo_moisNaiss, mois_change,
+     &BirthDate::mois_naissance, &BirthDate::set_mois_naissance, false, false, true, false},
+    {&Form1::Combo_AnNaiss1, siecle_change,
+     &BirthDate::siecle_naissance, &BirthDate::set_siecle_naissance, true, true, false, false},
+    {&Form1::Combo_AnNaiss2, annee_change,
+     &BirthDate::annee_naissance, &BirthDate::set_annee_naissance, true, false, false, false},
 }};
 // clang-format on
 
@@ -180,7 +189,9 @@ void date_left(Program& program, DateField const& field) {
     bool const half_typed = program.date_entry.nombre_touches == 1;
     program.date_entry.nombre_touches = 0;
     if (half_typed) {
-        (program.form1.*field.combo).Text = field.of_today(program.platform.today());
+        BirthDate of_today;
+        of_today.set(program.platform.today());
+        (program.form1.*field.combo).Text = (of_today.*field.part)();
     }
     if (field.leaving_repairs) annee99(program);
 }
@@ -248,22 +259,6 @@ void Command_DateNow_click(Program& program) {
 }
 
 }  // namespace
-
-void annee99(Program& program) {
-    auto& form = program.form1;
-    auto& consultation = program.consultation;
-    auto& birth = consultation.birth;
-    Mois30_31(program);
-    birth.rebuild_date_naissance();
-    if (auto const date = read_date(birth.date_naissance())) {
-        Date const first_day = add_years(*date, 1);
-        Date const last_day_before = first_day - std::chrono::days{1};
-        form.Label_anneedefile.Caption = write_date(first_day);
-        consultation.fin_annee_defile = last_day_before;
-        form.Label_anneedefile_Suite.Caption = write_date(add_years(last_day_before, 1));
-    }
-    consultation.annee_calcul = birth.year();
-}
 
 void write_date_combos(Program& program) {
     auto& form = program.form1;

@@ -6,10 +6,6 @@ namespace navarun {
 
 class Program;
 
-/// The common repair after a change of day, month or year: keeps the day inside its month,
-/// rebuilds the date and the first cycle year.
-void annee99(Program& program);
-
 /// Writes the four parts of the birth date into their fields, whose changes fire.
 void write_date_combos(Program& program);
 

@@ -61,6 +61,17 @@ constexpr auto two_digits = [] {
     return all;
 }();
 
+// Writes the ten characters of a date but for its strokes.
+void put_date(char* text, unsigned day_number, unsigned month_number, unsigned year_number) {
+    auto const put = [text](std::size_t at, unsigned number) {
+        std::ranges::copy(two_digits[number], text + at);
+    };
+    put(0, day_number);
+    put(3, month_number);
+    put(6, year_number / 100 % 100);
+    put(8, year_number % 100);
+}
+
 // The dates that the program wrote itself, which are nearly all that it reads: two, two and
 // four digits. Empty for any other wording.
 std::optional<YearMonthDay> read_as_written(std::string_view text) {
@@ -106,20 +117,15 @@ std::optional<YearMonthDay> read_date_parts(std::string_view text) {
 std::string write_date(Date date) { return write_date(YearMonthDay{date}); }
 
 std::string write_date(YearMonthDay date) {
-    return std::string{date_text(unsigned{date.day()}, unsigned{date.month()},
-                                 static_cast<unsigned>(int{date.year()}))};
+    std::string text(10, '/');
+    put_date(text.data(), unsigned{date.day()}, unsigned{date.month()},
+             static_cast<unsigned>(int{date.year()}));
+    return text;
 }
 
-DateText date_text(unsigned day_number, unsigned month_number, unsigned year_number) {
-    DateText text{{'0', '0', '/', '0', '0', '/', '0', '0', '0', '0'}};
-    auto const put = [&text](std::size_t at, unsigned number) {
-        std::ranges::copy(two_digits[number], &text.characters[at]);
-    };
-    put(0, day_number);
-    put(3, month_number);
-    put(6, year_number / 100 % 100);
-    put(8, year_number % 100);
-    return text;
+DateText::DateText(int day_number, int month_number, int year_number) {
+    put_date(m_characters.data(), static_cast<unsigned>(day_number),
+             static_cast<unsigned>(month_number), static_cast<unsigned>(year_number));
 }
 
 int year_of(Date date) { return int{YearMonthDay{date}.year()}; }

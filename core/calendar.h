@@ -20,7 +20,8 @@ std::optional<Date> date_of(int day, int month, int year);
 /// Reads a date text: day, month and year by the strokes, whatever the locale. Blanks round a
 /// stroke are skipped; the year is the number written. Anything else is no date.
 std::optional<Date> read_date(std::string_view text);
-/// The date text: two, two and four digits.
+/// The date text: two, two and four digits. REQUIRES a year of 0 or later; of a year beyond
+/// 9999 the last four digits are written.
 std::string write_date(Date date);
 std::string write_date(YearMonthDay date);
 

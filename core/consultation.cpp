@@ -27,6 +27,15 @@ void BirthDate::set_annee_naissance(std::string_view text) {
     rebuild_date_naissance();
 }
 
+void BirthDate::set(Date date) {
+    m_jour = text::padded(day_of(date), 2);
+    m_mois = text::padded(month_of(date), 2);
+    m_siecle = text::padded(year_of(date) / 100, 2);
+    m_annee = text::padded(year_of(date) % 100, 2);
+    rebuild_date_naissance();
+    rebuild_jour_mois_anniv();
+}
+
 void BirthDate::rebuild_date_naissance() {
     m_date = m_jour;
     m_date.append("/").append(m_mois).append("/").append(m_siecle).append(m_annee);

@@ -27,6 +27,8 @@ class BirthDate {
     void set_mois_naissance(std::string_view text);
     void set_siecle_naissance(std::string_view text);
     void set_annee_naissance(std::string_view text);
+    /// All four parts, each in two digits. REQUIRES a year of 0..9999.
+    void set(Date date);
 
     /// Makes `date_naissance` anew from the parts.
     void rebuild_date_naissance();

@@ -11,13 +11,16 @@
 namespace navarun {
 
 /// A date text by itself, without a string's memory.
-struct DateText {
-    std::array<char, 10> characters;
-    operator std::string_view() const { return {characters.data(), characters.size()}; }
-};
+class DateText {
+  public:
+    DateText() = default;
+    /// REQUIRES a day and a month of two digits; of the year, 0 or more, the last four count.
+    DateText(int day, int month, int year);
+    operator std::string_view() const { return {m_characters.data(), m_characters.size()}; }
 
-/// As write_date(). REQUIRES day and month below 100; of the year the last four digits count.
-DateText date_text(unsigned day, unsigned month, unsigned year);
+  private:
+    std::array<char, 10> m_characters{'0', '0', '/', '0', '0', '/', '0', '0', '0', '0'};
+};
 
 /// As read_date().
 std::optional<YearMonthDay> read_date_parts(std::string_view text);

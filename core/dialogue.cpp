@@ -1,8 +1,9 @@
 // Boxes, waits and messages.
 #include "core/dialogue.h"
 
-#include <string>
+#include <cstdint>
 
+#include "core/text.h"
 #include "shell/program.h"
 
 namespace navarun {
@@ -28,6 +29,15 @@ void boiteDialogue(Program& program) {
     Answer const answer = program.platform.box(dialogue.titre_dialogue, dialogue.texte_dialogue,
                                                BoxButtons::ok_cancel);
     dialogue.reponse_dialogue = static_cast<std::uint8_t>(answer);
+}
+
+bool agrees_to_erase(Program& program, std::string_view entry) {
+    auto& dialogue = program.dialogue;
+    dialogue.titre_dialogue = "EFFACER";
+    dialogue.texte_dialogue = "VOULEZ-VOUS EFFACER: ";
+    dialogue.texte_dialogue.append(text::line_break).append(text::upper(entry)).append(" ?");
+    boiteDialogue(program);
+    return dialogue.reponse_dialogue == 1;
 }
 
 void Pause(Program& program, float seconds) { wait(program, seconds, {}); }

@@ -11,6 +11,9 @@ class Program;
 /// answer, 1 for OK and 2 for Cancel.
 void boiteDialogue(Program& program);
 
+/// Asks whether `entry`, shown in capitals, is to be erased; answers whether the user agrees.
+bool agrees_to_erase(Program& program, std::string_view entry);
+
 /// Waits, letting pending events run. A wait over midnight ends the run with a fatal error: the
 /// timer counts from midnight.
 /// @param seconds  as a single-precision number, >= 0

@@ -8,7 +8,8 @@
 
 namespace navarun {
 
-/// @param month  1..12; "Janvier"
+/// "Janvier"
+/// @param month  1..12; another one is a programming error.
 std::string_view month_name(int month);
 /// "samedi 21 novembre 2026"
 std::string long_date(Date date);

@@ -5,7 +5,6 @@
 #include "chart/palace_colours.h"
 #include "core/birth_date_entry.h"
 #include "core/generate.h"
-#include "core/text.h"
 #include "files/address_book.h"
 #include "files/browser.h"
 #include "print/options.h"
@@ -29,10 +28,7 @@ void empty_the_fields(Form1& form) {
 
 void set_birth_to(Program& program, Date date) {
     auto& birth = program.consultation.birth;
-    birth.set_jour_naissance(text::padded(day_of(date), 2));
-    birth.set_mois_naissance(text::padded(month_of(date), 2));
-    birth.set_siecle_naissance(text::padded(year_of(date) / 100, 2));
-    birth.set_annee_naissance(text::padded(year_of(date) % 100, 2));
+    birth.set(date);
     write_date_combos(program);
     birth.rebuild_date_naissance();
 }

@@ -1,10 +1,15 @@
 // The first calculation and the last question.
 #include "core/start_up.h"
 
+#include <algorithm>
+#include <array>
+
 #include "chart/kundali.h"
 #include "core/birth_date_entry.h"
+#include "core/date_parts.h"
 #include "core/dialogue.h"
 #include "files/address_book.h"
+#include "files/browser.h"
 #include "files/settings.h"
 #include "periods/age_scroll.h"
 #include "periods/cycle_window.h"
@@ -41,10 +46,7 @@ void give_pointers(Form1& form) {
 
 void give_portrait_and_folders(Form1& form) {
     form.Picture_PHOTO.Picture = picture::ganesha;
-    form.Charge(1).Picture = screen::Picture{"DOSSIER", 1};
-    form.Charge(1).ToolTipText = "Dossier 1 Actif";
-    form.Charge(2).Picture = screen::Picture{"DOSSIER", 4};
-    form.Charge(2).ToolTipText = "Dossier 2 Inactif";
+    show_folder_buttons(form, 1);
 }
 
 void refuse_second_instance(Program& program) {
@@ -61,6 +63,14 @@ void set_first_date(Program& program) {
     birth.set_siecle_naissance("19");
     birth.set_annee_naissance("00");
     write_date_combos(program);
+}
+
+// Nothing is saved.
+void Quitter_Navarun(Program& program) {
+    program.dialogue.titre_dialogue = "QUITTER";
+    program.dialogue.texte_dialogue = "VOULEZ-VOUS QUITTER N.A.V.A.R.U.N ?";
+    boiteDialogue(program);
+    if (program.dialogue.reponse_dialogue == 1) throw ProgramEnded{};
 }
 
 }  // namespace
@@ -87,12 +97,8 @@ void Form_Load(Program& program) {
     consultation.annee_solaire = "1900";
     // The blanks round the stroke stay until the day or month is next written.
     birth.reword_jour_mois_anniv(birth.jour_naissance() + " / " + birth.mois_naissance());
-    Date const date = *read_date(birth.date_naissance());
-    Date const first_day = add_years(date, consultation.age_courant);
-    Date const last_day_before = first_day - std::chrono::days{1};
-    form.Label_anneedefile.Caption = write_date(first_day);
-    consultation.fin_annee_defile = last_day_before;
-    form.Label_anneedefile_Suite.Caption = write_date(add_years(last_day_before, 1));
+    show_cycle_year(program, *read_date_parts(birth.date_naissance()),
+                    consultation.age_courant);
     // So that the grid can turn true at the end.
     form.HScroll_age.Tag = "ROUGE";
     Position_solaire(program);
@@ -104,13 +110,6 @@ void Form_Load(Program& program) {
     cycle20ans(program);
     change_couleurAge(program, "vert");
     triDeva(program);
-}
-
-void Quitter_Navarun(Program& program) {
-    program.dialogue.titre_dialogue = "QUITTER";
-    program.dialogue.texte_dialogue = "VOULEZ-VOUS QUITTER N.A.V.A.R.U.N ?";
-    boiteDialogue(program);
-    if (program.dialogue.reponse_dialogue == 1) throw ProgramEnded{};
 }
 
 void wire_start_up(Program& program) {

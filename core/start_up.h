@@ -10,10 +10,8 @@ class Program;
 /// one whole calculation, so that the window opens on a finished grid.
 void Form_Load(Program& program);
 
-/// Asks, and ends the program where the user agrees: throws ProgramEnded. Nothing is saved.
-void Quitter_Navarun(Program& program);
-
-/// The menu entry and the frame of the window both leave.
+/// The menu entry and the frame of the window both ask, and end the program where the user
+/// agrees: they throw ProgramEnded. Nothing is saved.
 void wire_start_up(Program& program);
 
 }  // namespace navarun

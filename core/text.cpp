@@ -208,4 +208,10 @@ std::string Replace_Char(std::string text, std::string_view from, std::string_vi
     return text;
 }
 
+std::string repeated(std::string_view text, int times) {
+    std::string row;
+    for (int i = 0; i < times; ++i) row += text;
+    return row;
+}
+
 }  // namespace navarun::text

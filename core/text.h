@@ -46,4 +46,8 @@ std::string_view last(std::string_view text, std::size_t count);
 /// put in is not searched again. An empty `from` changes nothing.
 std::string Replace_Char(std::string text, std::string_view from, std::string_view to);
 
+/// `text` so many times in a row, as the lines that part the blocks of a text are drawn; empty
+/// where `times` is 0 or less.
+std::string repeated(std::string_view text, int times);
+
 }  // namespace navarun::text

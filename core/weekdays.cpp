@@ -1,6 +1,8 @@
 // The table of the week.
 #include "core/weekdays.h"
 
+#include <array>
+
 #include "core/text.h"
 
 namespace navarun {

@@ -16,7 +16,7 @@ struct Weekday {
     std::string_view negative;
 };
 
-/// @param number  1 for Sunday to 7 for Saturday.
+/// @param number  1 for Sunday to 7 for Saturday; another one is a programming error.
 Weekday const& weekday(int number);
 
 /// The caption of the day's lord: name, a blank, number.

@@ -28,13 +28,13 @@ class MouseFilter : public QObject {
         switch (event->type()) {
             case QEvent::MouseButtonPress:
                 m_pressed = mouse()->button() == Qt::LeftButton;
-                tell("down", *mouse(), button_of(mouse()->button()));
+                tell(screen::MouseEvent::down, *mouse(), button_of(mouse()->button()));
                 return true;
             case QEvent::MouseMove:
-                tell("move", *mouse(), button_of(mouse()->buttons()));
+                tell(screen::MouseEvent::move, *mouse(), button_of(mouse()->buttons()));
                 return true;
             case QEvent::MouseButtonRelease:
-                tell("up", *mouse(), button_of(mouse()->button()));
+                tell(screen::MouseEvent::up, *mouse(), button_of(mouse()->button()));
                 if (std::exchange(m_pressed, false) &&
                     m_widget.rect().contains(mouse()->position().toPoint())) {
                     m_session.act([&](screen::User& user) { user.click(m_control); });
@@ -57,13 +57,13 @@ class MouseFilter : public QObject {
         return buttons.testFlag(Qt::RightButton) ? 2 : 0;
     }
 
-    bool listens(std::string_view what) const {
-        if (what == "down") return static_cast<bool>(m_control.on_mouse_down);
-        if (what == "move") return static_cast<bool>(m_control.on_mouse_move);
+    bool listens(screen::MouseEvent what) const {
+        if (what == screen::MouseEvent::down) return static_cast<bool>(m_control.on_mouse_down);
+        if (what == screen::MouseEvent::move) return static_cast<bool>(m_control.on_mouse_move);
         return static_cast<bool>(m_control.on_mouse_up);
     }
 
-    void tell(std::string_view what, QMouseEvent const& event, int button) {
+    void tell(screen::MouseEvent what, QMouseEvent const& event, int button) {
         if (!listens(what)) return;
         screen::Mouse const where{.button = button,
                                   .x = event.position().x() * twips_per_pixel,
@@ -90,7 +90,9 @@ class PointerFilter : public QObject {
         auto const position = static_cast<QMouseEvent*>(event)->position();
         screen::Mouse const where{.x = position.x() * twips_per_pixel,
                                   .y = position.y() * twips_per_pixel};
-        m_session.act([&](screen::User& user) { user.mouse(m_control, "move", where); });
+        m_session.act([&](screen::User& user) {
+            user.mouse(m_control, screen::MouseEvent::move, where);
+        });
         return false;
     }
 

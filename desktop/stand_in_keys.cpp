@@ -90,7 +90,7 @@ class StandInKeys : public QObject {
 
     QPointF point() const { return m_point.value_or(QRectF{m_widget.rect()}.center()); }
 
-    void tell(std::string_view what) {
+    void tell(screen::MouseEvent what) {
         screen::Mouse const where{.button = 1,
                                   .x = point().x() * twips_per_pixel,
                                   .y = point().y() * twips_per_pixel};
@@ -103,13 +103,13 @@ class StandInKeys : public QObject {
             return;
         }
         m_held = static_cast<bool>(m_control.on_mouse_up);
-        tell("down");
+        tell(screen::MouseEvent::down);
         if (m_control.on_click)
             m_session.act([this](screen::User& user) { user.click(m_control); });
     }
 
     void let_go() {
-        if (std::exchange(m_held, false)) tell("up");
+        if (std::exchange(m_held, false)) tell(screen::MouseEvent::up);
     }
 
     bool move(int right, int down, Qt::KeyboardModifiers modifiers) {
@@ -124,7 +124,7 @@ class StandInKeys : public QObject {
         if (auto* const shown = m_session.window(m_control.form())) {
             shown->show_point(*m_point);
         }
-        if (m_held) tell("move");
+        if (m_held) tell(screen::MouseEvent::move);
         return true;
     }
 

@@ -3,7 +3,7 @@
 
 #include "chart/palace_colours.h"
 #include "core/dialogue.h"
-#include "core/text.h"
+#include "files/browser.h"
 #include "files/delimited.h"
 #include "files/durable_file.h"
 #include "readings/destiny_palace.h"
@@ -34,9 +34,8 @@ void Bouton_Internet_click(Program& program) {
     close_destiny_palace(program);
     form.List_Internet.clear();
     if (form.Frame_Internet.Visible) {
-        form.Command_reset.ToolTipText = "Initialise";
         form.Frame_Internet.Visible = false;
-        form.Command_reset.Picture = picture::begin_anew;
+        give_reset_its_role_back(form);
         return;
     }
     form.Command_reset.ToolTipText = "Supprime l'URL sélectionnée";
@@ -72,13 +71,7 @@ void Efface_Url(Program& program) {
         transient_message(program, "Veuillez sélectionnez une adresse à effacer !", 2.3F);
         return;
     }
-    program.dialogue.titre_dialogue = "EFFACER";
-    program.dialogue.texte_dialogue = "VOULEZ-VOUS EFFACER: ";
-    program.dialogue.texte_dialogue.append(text::line_break)
-        .append(text::upper(address))
-        .append(" ?");
-    boiteDialogue(program);
-    if (program.dialogue.reponse_dialogue != 1) return;
+    if (!agrees_to_erase(program, address)) return;
     list.remove(list.ListIndex);
     write_addresses(program, list.entries());
     list.ToolTipText = "";

@@ -42,9 +42,17 @@ constexpr std::array<FolderRow, 2> folder_rows{{
     {"DATA2/", "DATA1/", 2, "Dossier 1 Inactif", 3, "Dossier 2 Actif"},
 }};
 
+FolderRow const& row_of_folder(int folder) {
+    return folder_rows.at(static_cast<std::size_t>(folder - 1));
+}
+
 bool shows_records(Program const& program) {
     auto const ground = program.form1.File_Fichier.BackColor.get();
     return std::ranges::find(record_list_grounds, ground) != record_list_grounds.end();
+}
+
+bool browser_shows_images(Program const& program) {
+    return program.form1.File_Fichier.BackColor.get() == image_list_ground;
 }
 
 void count_entries(Program& program) {
@@ -52,25 +60,16 @@ void count_entries(Program& program) {
 }
 
 void make_folder_active(Program& program, int folder) {
-    auto const& row = folder_rows[static_cast<std::size_t>(folder - 1)];
-    auto& form = program.form1;
+    auto const& row = row_of_folder(folder);
     auto& folders = program.folders;
     folders.dossier_actif = folders.dossier_ressources + std::string{row.active};
     folders.dossier_autre = folders.dossier_ressources + std::string{row.other};
-    form.Charge(1).Picture = screen::Picture{"DOSSIER", row.picture_of_1};
-    form.Charge(1).ToolTipText = row.tooltip_of_1;
-    form.Charge(2).Picture = screen::Picture{"DOSSIER", row.picture_of_2};
-    form.Charge(2).ToolTipText = row.tooltip_of_2;
+    show_folder_buttons(program.form1, folder);
 }
 
 void show_folder(Program& program, std::string const& folder, Endings const& endings) {
     program.form1.File_Fichier.set_source(
         [&program, folder, &endings] { return list_files(program.path_of(folder), endings); });
-}
-
-void give_reset_its_role_back(Form1& form) {
-    form.Command_reset.Picture = picture::begin_anew;
-    form.Command_reset.ToolTipText = "Initialise";
 }
 
 // The record colour that the scheme left in the list's tag.
@@ -106,6 +105,32 @@ void Charge_click(Program& program, int folder) {
     show_folder(program, program.folders.dossier_actif, record_endings);
     count_entries(program);
     leave_image_mode(program);
+}
+
+// Opens the panel on the portraits, or closes it.
+void Bouton_Image_click(Program& program) {
+    auto& form = program.form1;
+    form.Text_Cherche.Text = "";
+    form.Frame_Internet.Visible = false;
+    apercu_impression_Invisible(program);
+    form.Text_definition_palais.Visible = false;
+    form.Label_Nbr_Fiche.Caption = "";
+    form.File_Fichier.ToolTipText = "";
+    if (form.Frame_FileFichier.Visible) {
+        form.Frame_FileFichier.Visible = false;
+        give_reset_its_role_back(form);
+        return;
+    }
+    form.Command_reset.Picture = picture::erase_portrait;
+    form.Frame_FileFichier.Visible = true;
+    form.Command_reset.ToolTipText = "Supprime l'image sélectionnée";
+    show_folder(program, program.folders.dossier_image, portrait_endings);
+    program.screen.move_focus(form.Text_Cherche);
+    form.File_Fichier.BackColor = image_list_ground;
+    form.File_Fichier.ForeColor = screen::black;
+    count_entries(program);
+    form.File_Fichier.ListIndex = -1;
+    program.record_values.fichier_selectionne.clear();
 }
 
 void deplace_fichier(Program& program) {
@@ -170,13 +195,22 @@ void list_mouse_move(Program& program, screen::Mouse const& mouse) {
 
 }  // namespace
 
+void show_folder_buttons(Form1& form, int active) {
+    auto const& row = row_of_folder(active);
+    form.Charge(1).Picture = screen::Picture{"DOSSIER", row.picture_of_1};
+    form.Charge(1).ToolTipText = row.tooltip_of_1;
+    form.Charge(2).Picture = screen::Picture{"DOSSIER", row.picture_of_2};
+    form.Charge(2).ToolTipText = row.tooltip_of_2;
+}
+
+void give_reset_its_role_back(Form1& form) {
+    form.Command_reset.Picture = picture::begin_anew;
+    form.Command_reset.ToolTipText = "Initialise";
+}
+
 void refresh_list(Program& program) {
     program.form1.File_Fichier.refresh();
     program.record_values.fichier_selectionne.clear();
-}
-
-bool browser_shows_images(Program const& program) {
-    return program.form1.File_Fichier.BackColor.get() == image_list_ground;
 }
 
 void leave_image_mode(Program& program) {
@@ -190,31 +224,6 @@ void close_browser(Program& program) {
     give_reset_its_role_back(form);
 }
 
-void Bouton_Image_click(Program& program) {
-    auto& form = program.form1;
-    form.Text_Cherche.Text = "";
-    form.Frame_Internet.Visible = false;
-    apercu_impression_Invisible(program);
-    form.Text_definition_palais.Visible = false;
-    form.Label_Nbr_Fiche.Caption = "";
-    form.File_Fichier.ToolTipText = "";
-    if (form.Frame_FileFichier.Visible) {
-        form.Frame_FileFichier.Visible = false;
-        give_reset_its_role_back(form);
-        return;
-    }
-    form.Command_reset.Picture = picture::erase_portrait;
-    form.Frame_FileFichier.Visible = true;
-    form.Command_reset.ToolTipText = "Supprime l'image sélectionnée";
-    show_folder(program, program.folders.dossier_image, portrait_endings);
-    program.screen.move_focus(form.Text_Cherche);
-    form.File_Fichier.BackColor = image_list_ground;
-    form.File_Fichier.ForeColor = screen::black;
-    count_entries(program);
-    form.File_Fichier.ListIndex = -1;
-    program.record_values.fichier_selectionne.clear();
-}
-
 void Efface_fichier(Program& program) {
     auto& form = program.form1;
     std::string const entry = form.File_Fichier.selected();
@@ -225,13 +234,7 @@ void Efface_fichier(Program& program) {
     std::string const folder = browser_shows_images(program) ? program.folders.dossier_image
                                                              : program.folders.dossier_actif;
     program.record_values.fichier_selectionne = folder + entry;
-    program.dialogue.titre_dialogue = "EFFACER";
-    program.dialogue.texte_dialogue = "VOULEZ-VOUS EFFACER: ";
-    program.dialogue.texte_dialogue.append(text::line_break)
-        .append(text::upper(entry))
-        .append(" ?");
-    boiteDialogue(program);
-    if (program.dialogue.reponse_dialogue == 1) {
+    if (agrees_to_erase(program, entry)) {
         delete_file(program.path_of(folder + entry), entry);
         refresh_list(program);
     } else {

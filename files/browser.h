@@ -4,7 +4,15 @@
 
 namespace navarun {
 
+class Form1;
 class Program;
+
+/// Shows on the buttons of the two record folders which of them is active.
+/// @param active  1 or 2; another one is a programming error.
+void show_folder_buttons(Form1& form, int active);
+
+/// The reset button begins anew again, where it erased while a list was in front.
+void give_reset_its_role_back(Form1& form);
 
 /// Hides the panel, empties the search and gives the reset button its own role back.
 void close_browser(Program& program);
@@ -12,19 +20,13 @@ void close_browser(Program& program);
 /// Reads the list anew; nothing is selected in it then.
 void refresh_list(Program& program);
 
-/// Whether the list shows portraits.
-bool browser_shows_images(Program const& program);
-
 /// Gives the list the ground of its record mode back.
 void leave_image_mode(Program& program);
-
-/// Opens the panel on the portraits, or closes it.
-void Bouton_Image_click(Program& program);
 
 /// Asks, and deletes the selected file, record or portrait.
 void Efface_fichier(Program& program);
 
-/// The folder buttons, the list, the search and the drag of a record.
+/// The buttons of folders and portraits, the list, the search and the drag of a record.
 void wire_browser(Program& program);
 
 }  // namespace navarun

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "core/code_page.h"
-#include "core/fatal_error.h"
 #include "core/text.h"
+#include "files/failed_file.h"
 
 namespace navarun {
 
@@ -49,15 +49,13 @@ void DelimitedReader::close_value() {
 std::string DelimitedReader::read_value() {
     while (!at_end() && m_bytes[m_at] == ' ') ++m_at;
     if (at_end()) {
-        throw FatalError{"La lecture du fichier « " + m_file + " » a échoué.",
-                         "Le fichier finit trop tôt."};
+        fail(attempt::reading, m_file, "Le fichier finit trop tôt.");
     }
     if (m_bytes[m_at] == '"') {
         auto const start = m_at + 1;
         auto const quote = m_bytes.find('"', start);
         if (quote == std::string::npos) {
-            throw FatalError{"La lecture du fichier « " + m_file + " » a échoué.",
-                             "Le fichier finit au milieu d'un texte."};
+            fail(attempt::reading, m_file, "Le fichier finit au milieu d'un texte.");
         }
         std::string value = m_bytes.substr(start, quote - start);
         // A quote inside a text ends it; what follows is read as the next value.
@@ -85,8 +83,8 @@ std::uint8_t DelimitedReader::read_byte() {
                         std::ranges::all_of(value, [](char c) { return c >= '0' && c <= '9'; });
     int const number = digits ? text::number_of(value) : -1;
     if (number < 0 || number > 255) {
-        throw FatalError{"La lecture du fichier « " + m_file + " » a échoué.",
-                         "« " + from_code_page(value) + " » n'est pas un nombre de 0 à 255."};
+        fail(attempt::reading, m_file,
+             "« " + from_code_page(value) + " » n'est pas un nombre de 0 à 255.");
     }
     return static_cast<std::uint8_t>(number);
 }

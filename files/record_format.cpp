@@ -1,6 +1,8 @@
 // The nine fields, in their order.
 #include "files/record_format.h"
 
+#include <utility>
+
 #include "files/delimited.h"
 
 namespace navarun {

@@ -2,7 +2,8 @@
 #include "files/records.h"
 
 #include <algorithm>
-#include <array>
+#include <string>
+#include <variant>
 
 #include "chart/kundali.h"
 #include "chart/palace_colours.h"
@@ -14,6 +15,7 @@
 #include "files/address_book.h"
 #include "files/browser.h"
 #include "files/durable_file.h"
+#include "files/failed_file.h"
 #include "files/file_list.h"
 #include "files/portrait.h"
 #include "periods/age_scroll.h"
@@ -42,18 +44,6 @@ std::string spelled_birth(BirthDate const& birth, std::string_view stroke) {
     return spelled.append(birth.siecle_naissance()).append(birth.annee_naissance());
 }
 
-void sauvegarde_confirmee(Program& program) {
-    auto const& form = program.form1;
-    std::string question = "VOULEZ-VOUS SAUVER: ";
-    question.append(line_break).append(form.Text_prenom.Text.get()).append(" ");
-    question.append(form.Text_nom.Text.get()).append(line_break);
-    question.append(spelled_birth(program.consultation.birth, "/")).append(" ?");
-    program.dialogue.titre_dialogue = "SAUVEGARDER";
-    program.dialogue.texte_dialogue = question;
-    boiteDialogue(program);
-    if (program.dialogue.reponse_dialogue == 1) Sauve_data(program);
-}
-
 void fill_in_missing_names(Program& program) {
     auto& form = program.form1;
     std::string const date_compacte = spelled_birth(program.consultation.birth, "_");
@@ -64,6 +54,35 @@ void fill_in_missing_names(Program& program) {
     }
     if (missing(form.Text_prenom)) form.Text_prenom.Text = date_compacte;
     if (missing(form.Text_nom)) form.Text_nom.Text = date_compacte;
+}
+
+// Replaces any record of the same name. A missing name is replaced on screen too.
+void Sauve_data(Program& program) {
+    auto& form = program.form1;
+    auto& values = program.record_values;
+    fill_in_missing_names(program);
+    std::string const name =
+        form.Text_nom.Text.get() + " " + form.Text_prenom.Text.get() + ".fcy";
+    values.chemin_fichier = program.folders.dossier_actif + name;
+    values.note_consultant = form.Text_Note.Text.get();
+    refuse_bad_file_name(name);
+    write_file(program.path_of(values.chemin_fichier), record_bytes(record_on_screen(program)),
+               name);
+    refresh_list(program);
+    transient_message(program, "Sauvegarde OK !", 1);
+    form.Command_reset.Picture = picture::begin_anew;
+}
+
+void sauvegarde_confirmee(Program& program) {
+    auto const& form = program.form1;
+    std::string question = "VOULEZ-VOUS SAUVER: ";
+    question.append(line_break).append(form.Text_prenom.Text.get()).append(" ");
+    question.append(form.Text_nom.Text.get()).append(line_break);
+    question.append(spelled_birth(program.consultation.birth, "/")).append(" ?");
+    program.dialogue.titre_dialogue = "SAUVEGARDER";
+    program.dialogue.texte_dialogue = question;
+    boiteDialogue(program);
+    if (program.dialogue.reponse_dialogue == 1) Sauve_data(program);
 }
 
 void put_on_screen(Program& program, Record const& record) {
@@ -148,24 +167,8 @@ Record record_on_screen(Program& program) {
 
 void refuse_bad_file_name(std::string const& name) {
     if (std::ranges::none_of(name, is_refused_in_file_names)) return;
-    throw FatalError{"L'écriture du fichier « " + name + " » a échoué.",
-                     "Un nom de fichier ne prend aucun de ces signes : / \\ : * ? \" < > |"};
-}
-
-void Sauve_data(Program& program) {
-    auto& form = program.form1;
-    auto& values = program.record_values;
-    fill_in_missing_names(program);
-    std::string const name =
-        form.Text_nom.Text.get() + " " + form.Text_prenom.Text.get() + ".fcy";
-    values.chemin_fichier = program.folders.dossier_actif + name;
-    values.note_consultant = form.Text_Note.Text.get();
-    refuse_bad_file_name(name);
-    write_file(program.path_of(values.chemin_fichier), record_bytes(record_on_screen(program)),
-               name);
-    refresh_list(program);
-    transient_message(program, "Sauvegarde OK !", 1);
-    form.Command_reset.Picture = picture::begin_anew;
+    fail(attempt::writing, name,
+         "Un nom de fichier ne prend aucun de ces signes : / \\ : * ? \" < > |");
 }
 
 void load_selected_record(Program& program) {

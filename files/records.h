@@ -21,10 +21,6 @@ struct RecordValues {
 /// The consultation as its fields show it.
 Record record_on_screen(Program& program);
 
-/// Writes the consultation to the active folder, replacing any record of the same name, and
-/// says so. A missing name is replaced on screen too, by the birth date and "Consultant".
-void Sauve_data(Program& program);
-
 /// Loads the selected record: fields, computation, marks; then closes the browser. A birth date
 /// that cannot be read ends the load before its computation with a message box.
 void load_selected_record(Program& program);

@@ -1,6 +1,7 @@
 // The settings of the program.
 #include "files/settings.h"
 
+#include "core/lords.h"
 #include "files/delimited.h"
 #include "files/durable_file.h"
 #include "periods/maha_dasha.h"
@@ -45,12 +46,15 @@ void Fichier_config(Program& program) {
     auto& settings = program.settings;
     if (FileExists(path)) {
         DelimitedReader reader{read_file(path, shown_as), shown_as};
+        // The last number wins, though a second one was written for the names of the lords.
         while (!reader.at_end()) settings.couleur_kundali = reader.read_byte();
     } else {
         DelimitedWriter writer;
         writer.number(settings.couleur_kundali).end_record();
         write_file(path, writer.bytes(), shown_as);
     }
+    // No file brings the short names back, as each of its numbers is read as the scheme. Were
+    // they to come back one day, the window would have to open with them.
     if (settings.decalage_nom_seigneur == short_names) {
         program.form1.Mnu_abrege.Checked = true;
         set_name_size(program.form1, short_name_size);

@@ -28,6 +28,11 @@ void show_page(Program& program, int page) {
     }
 }
 
+// Turns to the next page.
+void choix_page_age(Program& program) {
+    show_page(program, (page_shown(program) + 1) % page_count);
+}
+
 void show_page_before(Program& program) {
     show_page(program, (page_shown(program) + page_count - 1) % page_count);
 }
@@ -61,10 +66,6 @@ void choose_age(Program& program, int index) {
 }  // namespace
 
 void close_age_chooser(Program& program) { program.choix_age.unload(); }
-
-void choix_page_age(Program& program) {
-    show_page(program, (page_shown(program) + 1) % page_count);
-}
 
 void wire_age_chooser(Program& program) {
     auto& window = program.choix_age;

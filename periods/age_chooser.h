@@ -8,10 +8,7 @@ class Program;
 /// Closes the window where it is open.
 void close_age_chooser(Program& program);
 
-/// Turns to the next of the four pages of ages.
-void choix_page_age(Program& program);
-
-/// The age's label opens the window; its cells choose.
+/// The age's label opens the window; its cells choose, its arrows turn the four pages of ages.
 void wire_age_chooser(Program& program);
 
 }  // namespace navarun

@@ -1,9 +1,6 @@
 // The age bar and the state of the grid.
 #include "periods/age_scroll.h"
 
-#include <optional>
-#include <utility>
-
 #include "core/date_parts.h"
 #include "core/generate.h"
 #include "core/text.h"
@@ -60,14 +57,16 @@ void grid_becomes_stale(Program& program) {
     tag = stale_grid.tag;
 }
 
+void show_end_of_year_from(Program& program, Date first_day) {
+    YearMonthDay const last_day_before{first_day - std::chrono::days{1}};
+    program.consultation.fin_annee_defile = last_day_before;
+    program.form1.Label_anneedefile_Suite.Caption = write_date(add_years(last_day_before, 1));
+}
+
 // The last day of the cycle year shown, from its first day.
 void follow_first_day(Program& program) {
-    auto& form = program.form1;
-    auto& end = program.consultation.fin_annee_defile;
-    auto const first_day = read_date(form.Label_anneedefile.Caption.get());
-    if (!first_day) return;
-    end = *first_day - std::chrono::days{1};
-    form.Label_anneedefile_Suite.Caption = write_date(add_years(YearMonthDay{*end}, 1));
+    auto const first_day = read_date(program.form1.Label_anneedefile.Caption.get());
+    if (first_day) show_end_of_year_from(program, *first_day);
 }
 
 void HScroll_age_change(Program& program) {
@@ -80,10 +79,8 @@ void HScroll_age_change(Program& program) {
     program.periods.age_scroll = age;
     consultation.age_courant = age;
     birth.rebuild_date_naissance();
-    if (auto const date = read_date_parts(birth.date_naissance())) {
-        form.Label_anneedefile.Caption = write_date(add_years(*date, age));
-        follow_first_day(program);
-    }
+    auto const date = read_date_parts(birth.date_naissance());
+    if (date) show_cycle_year(program, *date, age);
     birth.rebuild_jour_mois_anniv();
     defile_MahaDasha(program);
     grid_becomes_stale(program);
@@ -99,6 +96,12 @@ void HScroll_age_scroll(Program& program) {
 }
 
 }  // namespace
+
+void show_cycle_year(Program& program, YearMonthDay birth, int age) {
+    YearMonthDay const first_day = add_years(birth, age);
+    program.form1.Label_anneedefile.Caption = write_date(first_day);
+    show_end_of_year_from(program, first_day);
+}
 
 void defile_MahaDasha(Program& program) {
     auto const& consultation = program.consultation;

@@ -4,9 +4,16 @@
 
 #include <string_view>
 
+#include "core/calendar.h"
+
 namespace navarun {
 
 class Program;
+
+/// Shows the cycle year of an age: the captions of its first and last day, and the last day
+/// before it, which the grid is reckoned from.
+/// @param age  >= 0
+void show_cycle_year(Program& program, YearMonthDay birth, int age);
 
 /// Writes which lord rules the current age, and which of his years it is. Where the person's
 /// sequence has no case for the age, the caption stays.

@@ -1,8 +1,8 @@
 // Marking the period's row.
 #include "periods/current_period.h"
 
+#include "core/cells.h"
 #include "core/date_parts.h"
-#include "periods/cycle_lords.h"
 #include "periods/emphasis.h"
 #include "periods/step_in_progress.h"
 #include "shell/program.h"
@@ -21,8 +21,8 @@ void Trouve_ActuelMahaDasha(Program& program) {
     Date const today = program.platform.today();
     if (in_year_in_progress(*anniversary, today)) {
         // Where no sequence had a case, the column may stand at 0 for cell 12.
+        int const start = cell_of_column(consultation.colonne_age_mod);
         auto const date_of_cell = [&](int cell) { return read_date_parts(text_of_cell(cell)); };
-        int const start = consultation.colonne_age_mod == 0 ? 12 : consultation.colonne_age_mod;
         int const after = cell_after_today(date_of_cell, start, today);
         int const marked = cell_before(after);
         emphasise(form.Label_Dasha(marked));

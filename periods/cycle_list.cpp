@@ -1,6 +1,7 @@
 // The lines of the cycle list.
 #include "periods/cycle_list.h"
 
+#include "core/cells.h"
 #include "core/text.h"
 #include "periods/cycle_lords.h"
 #include "periods/lord_circle.h"
@@ -14,12 +15,6 @@ std::string five_characters(std::string_view name) {
     std::string five{name.substr(0, 5)};
     five.resize(5, ' ');
     return five;
-}
-
-std::string repeated(std::string_view character, int times) {
-    std::string line;
-    for (int i = 0; i < times; ++i) line += character;
-    return line;
 }
 
 std::string in_brackets(int number) { return "(" + text::padded(number, 2) + ")"; }
@@ -41,11 +36,11 @@ std::vector<std::string> cycle_lines(CycleListing const& listing) {
     do {
         for (std::size_t period = 0; period < circle.size(); ++period) {
             auto const& lord = circle[place];
-            lines.push_back(repeated("_", 22));
+            lines.push_back(text::repeated("_", 22));
             lines.push_back(five_characters(lord.capitals) + "    " +
                             write_date(add_years(listing.birth, age)) + "   " +
                             in_brackets(lord.years));
-            lines.push_back(repeated("¯", 20));
+            lines.push_back(text::repeated("¯", 20));
             for (int i = 0; i < lord.years; ++i) {
                 int const year_lord =
                     lord_of_year(listing.weekday_lord, listing.day, listing.month, year);

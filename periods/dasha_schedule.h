@@ -22,7 +22,7 @@ struct DashaStep {
     std::optional<Lord> assigned;
 };
 
-/// @param column  the sequence, 1..9
+/// @param column  the sequence, 1..9; another one is a programming error.
 /// @return empty where the sequence has no case for `age`: nothing is then written. So at ages
 ///         outside 1..350.
 std::optional<DashaStep> dasha_step(int column, int age);

@@ -3,6 +3,7 @@
 
 #include "periods/period_values.h"
 #include "shell/screen/control.h"
+#include "shell/screen/control_array.h"
 
 namespace navarun {
 

@@ -10,8 +10,9 @@ struct LalKitab {
     int year_rank;  // 0 for Chandra, who has one year alone
 };
 
-/// @param column  the sequence, 1..9
-/// @return null where the sequence has no case for `age`. Age 351 is as age 1.
+/// @param column  the sequence, 1..9; another one is a programming error.
+/// @return null where the sequence has no case for `age`, as for any age outside 1..351.
+///         Age 351 is as age 1.
 LalKitab const* lal_kitab(int column, int age);
 
 }  // namespace navarun

@@ -48,7 +48,9 @@ std::optional<int> sequence_of_mansion(int mansion);
 
 /// `ages_seigneurs`: the age at which a period starts. The ten turns of one period lie in ten
 /// neighbouring rows.
-/// @param row  1..90, @param column  1..9, the sequence.
+/// @param row     1..90
+/// @param column  1..9, the sequence
+/// Other ones are programming errors.
 int ages_seigneurs(int row, int column);
 
 /// A period of a sequence.

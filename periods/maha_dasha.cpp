@@ -3,8 +3,8 @@
 
 #include <cstddef>
 
+#include "core/cells.h"
 #include "periods/current_period.h"
-#include "periods/cycle_lords.h"
 #include "periods/dasha_schedule.h"
 #include "periods/row_dates.h"
 #include "periods/year_month_lords.h"

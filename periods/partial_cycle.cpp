@@ -5,6 +5,9 @@
 
 namespace navarun {
 
+namespace {
+
+// Shows the selected period and month alone, or the whole rows again.
 void Cycle_partiel(Program& program) {
     auto& form = program.form1;
     bool const whole = !program.periods.cycle_partiel_actif;
@@ -17,6 +20,8 @@ void Cycle_partiel(Program& program) {
     for (int i = 1; i <= 12; ++i) show(i, i, whole);
     show(program.consultation.colonne_mois, program.consultation.colonne_dasha, true);
 }
+
+}  // namespace
 
 void CyclePartiel_annule(Program& program) {
     if (!program.periods.cycle_partiel_actif) return;

@@ -5,10 +5,6 @@ namespace navarun {
 
 class Program;
 
-/// Shows the selected period and month alone, or the whole rows again, by
-/// `cycle_partiel_actif`.
-void Cycle_partiel(Program& program);
-
 /// Ends the reduced view where it is on.
 void CyclePartiel_annule(Program& program);
 

@@ -1,7 +1,7 @@
 // The searches round the grid.
 #include "periods/step_in_progress.h"
 
-#include "periods/cycle_lords.h"
+#include "core/cells.h"
 
 namespace navarun {
 

@@ -2,6 +2,7 @@
 #include "periods/tri_deva.h"
 
 #include <algorithm>
+#include <array>
 
 #include "periods/tri_deva_rule.h"
 #include "shell/program.h"

@@ -3,7 +3,9 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 
+#include "core/cells.h"
 #include "core/date_parts.h"
 #include "core/text.h"
 #include "periods/cycle_lords.h"

@@ -12,9 +12,8 @@ namespace navarun {
 /// stays in force until it is set again.
 class DrawingSurface {
   public:
-    /// @param ratio  what an inch of the page measures where it is shown, 1 on paper; text
-    /// sizes
-    ///               are multiplied by it, coordinates are not.
+    /// @param ratio  what an inch of the page measures where it is shown, 1 on paper; sizes of
+    ///               text are multiplied by it, coordinates are not.
     explicit DrawingSurface(double ratio) { m_page.ratio = ratio; }
 
     std::string_view FontName = "Arial";

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <utility>
 
 #include "core/calendar.h"
 #include "core/text.h"
@@ -45,9 +46,7 @@ class Flow {
     }
     // One text of so many line breaks. The paper may end within it.
     void space(int breaks) {
-        std::string text;
-        for (int i = 0; i < breaks; ++i) text += text::line_break;
-        line(left_edge, std::move(text));
+        line(left_edge, text::repeated(text::line_break, breaks));
         for (int i = 0; i < breaks; ++i) {
             make_room();
             m_y += line_height();
@@ -106,11 +105,7 @@ std::string row(Rows const& rows, std::size_t place) {
 // first.
 constexpr std::array<double, 7> print_date_edges{5.7, 5.97, 5.97, 5.77, 5.97, 5.77, 5.85};
 
-std::string rule() {
-    std::string line;
-    for (int i = 0; i < 75; ++i) line += "¯";
-    return line;
-}
+std::string rule() { return text::repeated("¯", 75); }
 
 void head(Program const& program, Rows const& rows, Flow& flow) {
     flow.set_font("Arial", 17);

@@ -2,6 +2,7 @@
 #include "print/preview.h"
 
 #include <cmath>
+#include <utility>
 
 #include "chart/kundali.h"
 #include "core/calendar.h"
@@ -25,6 +26,17 @@ void tell_first_span(Program& program) {
         options.Label_afficheAnnee(1).Caption =
             write_date(add_years(*date, years_told_at_first));
     }
+}
+
+// Sets a box up for a page of the printer's proportions: its height follows its width, and what
+// was drawn on it goes. Answers what an inch of the page measures on the box.
+double ScalePicPreviewToPrinterInches(Program& program, screen::PictureBox& box) {
+    auto const& page = program.printing.preview_page;
+    double const box_inches = static_cast<double>(box.Width) / screen::twips_per_inch;
+    double const ratio = box_inches / page.width;
+    box.Height = static_cast<int>(std::lround(page.height * ratio * screen::twips_per_inch));
+    box.clear_page();
+    return ratio;
 }
 
 void MnuApercu_Impression_click(Program& program) {
@@ -51,15 +63,6 @@ void MnuApercu_Impression_click(Program& program) {
 }
 
 }  // namespace
-
-double ScalePicPreviewToPrinterInches(Program& program, screen::PictureBox& box) {
-    auto const& page = program.printing.preview_page;
-    double const box_inches = static_cast<double>(box.Width) / screen::twips_per_inch;
-    double const ratio = box_inches / page.width;
-    box.Height = static_cast<int>(std::lround(page.height * ratio * screen::twips_per_inch));
-    box.clear_page();
-    return ratio;
-}
 
 void draw_preview(Program& program) {
     auto& box = program.form1.Picture2;

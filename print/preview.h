@@ -1,20 +1,11 @@
 // The print preview on the main window.
 #pragma once
 
-namespace navarun::screen {
-class PictureBox;
-}
-
 namespace navarun {
 
 class Program;
 
-/// Sets a box up for a page of the printer's proportions: its height follows its width, and
-/// what was drawn on it goes.
-/// @return what an inch of the page measures on the box.
-double ScalePicPreviewToPrinterInches(Program& program, screen::PictureBox& box);
-
-/// Draws the report on the preview anew.
+/// Draws the report on the preview anew, in the proportions of the printer's page.
 void draw_preview(Program& program);
 
 /// Closes the preview and its options: wherever the display changes under it.

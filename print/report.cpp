@@ -2,6 +2,7 @@
 #include "print/report.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "chart/kundali.h"
 #include "core/text.h"

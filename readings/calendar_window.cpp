@@ -1,8 +1,8 @@
 // The grid of the calendar.
 #include "readings/calendar_window.h"
 
+#include <algorithm>
 #include <array>
-#include <cmath>
 #include <optional>
 
 #include "core/french_dates.h"
@@ -176,6 +176,46 @@ void CouleurFerie(Program& program) {
     mark_fixed_holidays(program);
 }
 
+// Redraws the grid for the chosen date.
+void CalculDate(Program& program) {
+    auto& window = program.frm_calend;
+    auto& values = program.calendar;
+    values.cal_calcul = true;
+    refresh_numbers(values);
+    follow_click_beyond_the_month(program);
+    slide_into_the_month(values);
+    int const month = values.cal_mois_n;
+    int const year = values.cal_annee_n;
+    Date const first = *date_of(1, month, year);
+    Date const day_before = first - std::chrono::days{1};
+    // Monday is 1; so many cells of the month before stand first, a whole row where the month
+    // begins on a Monday.
+    int const before = (weekday_of(day_before) + 5) % 7 + 1;
+    int const days = NbrJours(month, year);
+    int previous = day_of(day_before);
+    for (int i = before - 1; i >= 0; --i) {
+        fill_cell(window.btnJour(i), previous--, other_month_ground, previous_month);
+    }
+    if (values.cal_case == -1) values.cal_case = before + values.cal_jour_n - 1;
+    for (int i = 0; i < days; ++i) {
+        fill_cell(window.btnJour(before + i), i + 1, program.scheme_colours.couleur_liste,
+                  current_month);
+    }
+    for (int i = before + days; i < cell_count; ++i) {
+        fill_cell(window.btnJour(i), i - before - days + 1, other_month_ground, next_month);
+    }
+    CouleurFerie(program);
+    std::string const words = long_date(*date_of(values.cal_jour_n, month, year));
+    window.btnJour(values.cal_case).BackColor = chosen_ground;
+    window.btnJour(values.cal_case).ToolTipText = words;
+    values.cal_case = -1;
+    bool const listed = year >= first_listed_year && year <= last_listed_year;
+    window.cAn.ListIndex = listed ? year - first_listed_year : -1;
+    window.cMois.ListIndex = month - 1;
+    window.lblDate.Caption = words;
+    values.cal_calcul = false;
+}
+
 std::string time_text(double seconds) {
     int const whole = static_cast<int>(seconds);
     return text::padded(whole / 3600, 2) + ":" + text::padded(whole / 60 % 60, 2) + ":" +
@@ -194,10 +234,9 @@ void load(Program& program) {
     window.Label_horloge.Caption = write_date(today);
     show_time(program);
     window.Stacking = screen::Stacking::topmost;
-    window.chkWeek.Value = 0;
-    window.chkFerie.Value = 0;
-    // The lists fire as they are filled.
-    values.cal_calcul = true;
+    // The marks of the last opening go without a drawing of their own: the one below shows all.
+    window.chkWeek.Value.preset(0);
+    window.chkFerie.Value.preset(0);
     window.cAn.clear();
     for (int year = first_listed_year; year <= last_listed_year; ++year) {
         window.cAn.add(std::to_string(year));
@@ -206,7 +245,6 @@ void load(Program& program) {
     for (int month = 1; month <= 12; ++month) {
         window.cMois.add(std::string{month_name(month)});
     }
-    values.cal_calcul = false;
     set_chosen(values, today);
     values.cal_case = -1;
     CalculDate(program);
@@ -252,45 +290,6 @@ void MnuCalendrier_click(Program& program) {
 }
 
 }  // namespace
-
-void CalculDate(Program& program) {
-    auto& window = program.frm_calend;
-    auto& values = program.calendar;
-    values.cal_calcul = true;
-    refresh_numbers(values);
-    follow_click_beyond_the_month(program);
-    slide_into_the_month(values);
-    int const month = values.cal_mois_n;
-    int const year = values.cal_annee_n;
-    Date const first = *date_of(1, month, year);
-    Date const day_before = first - std::chrono::days{1};
-    // Monday is 1; so many cells of the month before stand first, a whole row where the month
-    // begins on a Monday.
-    int const before = (weekday_of(day_before) + 5) % 7 + 1;
-    int const days = NbrJours(month, year);
-    int previous = day_of(day_before);
-    for (int i = before - 1; i >= 0; --i) {
-        fill_cell(window.btnJour(i), previous--, other_month_ground, previous_month);
-    }
-    if (values.cal_case == -1) values.cal_case = before + values.cal_jour_n - 1;
-    for (int i = 0; i < days; ++i) {
-        fill_cell(window.btnJour(before + i), i + 1, program.scheme_colours.couleur_liste,
-                  current_month);
-    }
-    for (int i = before + days; i < cell_count; ++i) {
-        fill_cell(window.btnJour(i), i - before - days + 1, other_month_ground, next_month);
-    }
-    CouleurFerie(program);
-    std::string const words = long_date(*date_of(values.cal_jour_n, month, year));
-    window.btnJour(values.cal_case).BackColor = chosen_ground;
-    window.btnJour(values.cal_case).ToolTipText = words;
-    values.cal_case = -1;
-    bool const listed = year >= first_listed_year && year <= last_listed_year;
-    window.cAn.ListIndex = listed ? year - first_listed_year : -1;
-    window.cMois.ListIndex = month - 1;
-    window.lblDate.Caption = words;
-    values.cal_calcul = false;
-}
 
 void wire_calendar_window(Program& program) {
     auto& window = program.frm_calend;

@@ -5,9 +5,6 @@ namespace navarun {
 
 class Program;
 
-/// Redraws the grid for the chosen date.
-void CalculDate(Program& program);
-
 /// The menu entry opens the window; its cells, lists, switches and clock.
 void wire_calendar_window(Program& program);
 

@@ -1,6 +1,8 @@
 // Filling the palace of destiny.
 #include "readings/destiny_palace.h"
 
+#include "core/cells.h"
+#include "core/lords.h"
 #include "core/text.h"
 #include "shell/program.h"
 
@@ -34,7 +36,7 @@ void palaisDudestin(Program& program) {
     auto const& form = program.form1;
     auto const& consultation = program.consultation;
     window.Stacking = screen::Stacking::topmost;
-    int const column = consultation.colonne_age_mod == 0 ? 12 : consultation.colonne_age_mod;
+    int const column = cell_of_column(consultation.colonne_age_mod);
     std::string const& date = form.Label_DashaDate(column).Caption.get();
     int const lord =
         reduced_to_nine(text::number_of(text::last(date, 2)) + consultation.seigneur_jour +

@@ -1,6 +1,7 @@
 // The texts of the letters.
 #include "readings/initials.h"
 
+#include <algorithm>
 #include <array>
 
 #include "core/text.h"

@@ -1,7 +1,6 @@
 // The initials of a person, and the text that each letter has.
 #pragma once
 
-#include <algorithm>
 #include <optional>
 #include <string>
 #include <string_view>

@@ -15,11 +15,7 @@ namespace {
 
 using text::line_break;
 
-std::string bar_of(std::string_view character) {
-    std::string bar;
-    for (int i = 0; i < 19; ++i) bar += character;
-    return bar;
-}
+constexpr int bar_length = 19;
 
 void MnuPersonalite_click(Program& program) {
     std::string const report = personality_report(program);
@@ -48,8 +44,8 @@ std::string personality_report(Program& program) {
     auto const& form = program.form1;
     auto const& consultation = program.consultation;
     Nakshatra_Text(program);
-    static std::string const bar_1 = bar_of("_");
-    static std::string const bar_2 = bar_of("¯");
+    static std::string const bar_1 = text::repeated("_", bar_length);
+    static std::string const bar_2 = text::repeated("¯", bar_length);
     std::string const& first_name = form.Text_prenom.Text.get();
     std::string const& last_name = form.Text_nom.Text.get();
     bool const nameless = first_name.empty() && last_name.empty();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/screen/control.h"
+#include "shell/screen/form.h"
 
 namespace navarun {
 

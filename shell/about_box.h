@@ -5,6 +5,7 @@ namespace navarun {
 
 class Program;
 
+/// The menu entry opens the box; its button and its frame close it, its link opens the site.
 void wire_about_box(Program& program);
 
 }  // namespace navarun

@@ -2,7 +2,8 @@
 #include "shell/fleche.h"
 
 #include <array>
-#include <numeric>
+
+#include "shell/window_design.h"
 
 namespace navarun {
 
@@ -35,12 +36,6 @@ Design colour_design(int index) {
             .border = true};
 }
 
-std::vector<int> sixteen() {
-    std::vector<int> indexes(16);
-    std::iota(indexes.begin(), indexes.end(), 0);
-    return indexes;
-}
-
 }  // namespace
 
 Fleche::Fleche(screen::Screen& screen_)
@@ -52,7 +47,8 @@ Fleche::Fleche(screen::Screen& screen_)
             .visible = false}},
       Frame1{*this, "Frame1", {.place = {60, 60, 2160, 5190}, .border = true}},
       Option_Fleche{*this, "Option_Fleche", {1, 2, 3}, option_design, &Frame1},
-      Label_couleur{*this, "Label_couleur", sixteen(), colour_design, &Frame1},
+      Label_couleur{*this, "Label_couleur", window_design::indexes(0, 15), colour_design,
+                    &Frame1},
       Shape_selection{
           *this,
           "Shape_selection",

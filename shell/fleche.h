@@ -1,7 +1,11 @@
 // Fleche, the tool window of the arrows: kind, colour and width.
 #pragma once
 
+#include "shell/screen/choice.h"
 #include "shell/screen/control.h"
+#include "shell/screen/control_array.h"
+#include "shell/screen/form.h"
+#include "shell/screen/picture_box.h"
 
 namespace navarun {
 

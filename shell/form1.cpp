@@ -1,10 +1,14 @@
 // The design of the main window.
 #include "shell/form1.h"
 
+#include <array>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "shell/image_store.h"
+#include "core/text.h"
+#include "periods/lord_circle.h"
+#include "shell/window_design.h"
 
 namespace navarun {
 
@@ -17,19 +21,19 @@ using screen::Font;
 using screen::Picture;
 using screen::Place;
 using screen::SystemColour;
+using window_design::arial;
+using window_design::azure_list;
+using window_design::narrow;
+using window_design::title_band;
 
-constexpr Font arial(double size) { return {.name = "Arial", .size = size}; }
-constexpr Font narrow(double size) { return {.name = "Arial Narrow", .size = size}; }
 constexpr Font bold(Font font) { return {font.name, font.size, true, font.italic}; }
 constexpr Font italic(Font font) { return {font.name, font.size, font.bold, true}; }
 
-// The colours of the azure schemes, in which the window is designed.
+// Of the azure schemes, in which the window is designed.
 constexpr Colour azure_window{0xBDE7F7};
-constexpr Colour azure_band{0x2C8EDC};
-constexpr Colour azure_field{0xCCE2FC};
 constexpr Colour purple{0x800080};
 
-std::vector<int> const cells{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
+std::vector<int> const cells = window_design::indexes(1, 12);
 
 struct Corner {
     int left;
@@ -115,7 +119,7 @@ Design charge_design(int folder) {
 }
 
 // A heading with white text on a band.
-Design band(Place place, std::string_view text, Font font, Colour back = azure_band) {
+Design band(Place place, std::string_view text, Font font, Colour back = title_band) {
     return {.place = place,
             .text = text,
             .font = font,
@@ -133,7 +137,7 @@ Design boxed(Design design) {
 // A reading that only the program writes.
 Design reading(Place place, Font font) {
     return {
-        .place = place, .font = font, .back = azure_field, .border = true, .read_only = true};
+        .place = place, .font = font, .back = azure_list, .border = true, .read_only = true};
 }
 
 Design date_field(int left, std::string_view tooltip) {
@@ -159,7 +163,7 @@ Design picture_button(Place place, std::string_view tooltip, Picture picture) {
 std::vector<std::string> two_digit_texts(int first, int last) {
     std::vector<std::string> texts;
     for (int i = first; i <= last; ++i) {
-        texts.push_back({static_cast<char>('0' + i / 10), static_cast<char>('0' + i % 10)});
+        texts.push_back(text::padded(i, 2));
     }
     return texts;
 }
@@ -220,7 +224,7 @@ Form1::Form1(screen::Screen& screen_)
       Text_definition_palais{*this, "Text_definition_palais",
                              {.place = {2100, 2020, 3220, 3160},
                               .font = arial(12),
-                              .back = azure_field,
+                              .back = azure_list,
                               .border = true,
                               .visible = false},
                              &Picture_KUNDALI},
@@ -351,7 +355,7 @@ Form1::Form1(screen::Screen& screen_)
                  .align = Alignment::centre,
                  .tooltip = "Choisissez un âge."}},
       HScroll_age{*this, "HScroll_age",
-                  {.place = {8440, 7200, 1760, 495}, .minimum = 1, .maximum = 350}},
+                  {.place = {8440, 7200, 1760, 495}, .minimum = 1, .maximum = greatest_age}},
       Command2{*this, "Command2",
                picture_button({10200, 7200, 495, 495}, "Génère les cycles",
                               Picture{"CycleBouton", 0})},

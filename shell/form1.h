@@ -4,7 +4,13 @@
 // container's own coordinates. What a control does stands with the subsystem that answers it.
 #pragma once
 
+#include "shell/screen/choice.h"
 #include "shell/screen/control.h"
+#include "shell/screen/control_array.h"
+#include "shell/screen/entry.h"
+#include "shell/screen/form.h"
+#include "shell/screen/list.h"
+#include "shell/screen/picture_box.h"
 
 namespace navarun {
 

@@ -2,9 +2,10 @@
 #include "shell/names.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
+#include <cstdint>
 #include <iterator>
+#include <utility>
 
 #include "core/weekdays.h"
 #include "periods/lord_circle.h"

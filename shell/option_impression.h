@@ -1,7 +1,10 @@
 // The window of the print options, beside the preview.
 #pragma once
 
+#include "shell/screen/choice.h"
 #include "shell/screen/control.h"
+#include "shell/screen/control_array.h"
+#include "shell/screen/form.h"
 
 namespace navarun {
 

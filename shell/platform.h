@@ -3,14 +3,15 @@
 #pragma once
 
 #include <cstdint>
+#include <exception>
 #include <filesystem>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "core/calendar.h"
 #include "core/fatal_error.h"
+#include "shell/screen/keys.h"
 #include "shell/screen/page.h"
 
 namespace navarun {
@@ -77,6 +78,7 @@ class Platform {
     virtual void print(std::vector<screen::Page> const& pages) = 0;
 
     /// Whether the user holds the key of that code down at this moment.
+    /// @param code  as in `key`
     virtual bool key_is_held(int code) = 0;
 };
 
@@ -85,12 +87,5 @@ class ProgramEnded : public std::exception {
   public:
     char const* what() const noexcept override { return "le programme est terminé"; }
 };
-
-namespace key {
-inline constexpr int enter = 13;
-inline constexpr int control = 17;
-inline constexpr int escape = 27;
-inline constexpr int erase = 46;
-}  // namespace key
 
 }  // namespace navarun

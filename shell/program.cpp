@@ -7,6 +7,7 @@
 #include "core/birth_date_entry.h"
 #include "core/generate.h"
 #include "core/julian_mode.h"
+#include "core/lords.h"
 #include "core/reset.h"
 #include "core/start_up.h"
 #include "files/address_book.h"

@@ -12,7 +12,6 @@
 #include "chart/arrow_values.h"
 #include "core/consultation.h"
 #include "core/file_path.h"
-#include "core/lords.h"
 #include "files/browser_values.h"
 #include "files/durable_file.h"
 #include "files/folders.h"
@@ -90,7 +89,8 @@ class Program {
     }
 
     /// The name of a lord as the grid shows it, in full or short.
-    /// @param lord  1..9. With full names anything below ends the run with a fatal error.
+    /// @param lord  1..9. With full names anything below ends the run with a fatal error; a
+    ///              number above is a programming error.
     std::string_view name_of_lord(int lord) const;
 
     /// Where a path from the application folder on lies.

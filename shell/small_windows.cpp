@@ -2,6 +2,8 @@
 // the chart stays in sight.
 #include "shell/small_windows.h"
 
+#include <array>
+
 #include "shell/window_design.h"
 
 namespace navarun {
@@ -13,12 +15,6 @@ using screen::Colour;
 using screen::Design;
 using screen::Place;
 using namespace window_design;
-
-std::vector<int> indexes(int first, int last) {
-    std::vector<int> all;
-    for (int i = first; i <= last; ++i) all.push_back(i);
-    return all;
-}
 
 // Ten rows of ten ages.
 constexpr int age_step_x = 420;

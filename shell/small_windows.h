@@ -1,7 +1,12 @@
 // The windows beside the main one that belong to the readings: their tables of controls.
 #pragma once
 
+#include "shell/screen/choice.h"
 #include "shell/screen/control.h"
+#include "shell/screen/control_array.h"
+#include "shell/screen/entry.h"
+#include "shell/screen/form.h"
+#include "shell/screen/list.h"
 
 namespace navarun {
 

@@ -6,6 +6,7 @@ namespace navarun {
 
 class Program;
 
+/// The entries of those documents and programs, and the one of that place.
 void wire_tool_menus(Program& program);
 
 }  // namespace navarun

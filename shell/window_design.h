@@ -1,8 +1,11 @@
-// What the designs of the windows beside the main one share: their fonts, grounds and bands, as
-// they stand before a colour scheme is applied.
+// What the designs of the windows share: their fonts, grounds and bands, as they stand before a
+// colour scheme is applied, and the indexes of their rows.
 #pragma once
 
-#include "shell/screen/control.h"
+#include <vector>
+
+#include "shell/screen/colour.h"
+#include "shell/screen/design.h"
 
 namespace navarun::window_design {
 
@@ -16,6 +19,13 @@ inline constexpr screen::Colour title_band{0x2C8EDC};
 /// A window that opens at `place`, seen from the upper left corner of the main one.
 constexpr screen::Design window(screen::Place place, std::string_view caption) {
     return {.place = place, .text = caption, .back = azure_small_window, .visible = false};
+}
+
+/// The indexes of a row of controls, both inside; none where `last` lies before `first`.
+inline std::vector<int> indexes(int first, int last) {
+    std::vector<int> all;
+    for (int i = first; i <= last; ++i) all.push_back(i);
+    return all;
 }
 
 /// White words on the strong colour.

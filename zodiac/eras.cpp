@@ -3,15 +3,13 @@
 
 namespace navarun {
 
-namespace {
-
 // How the rows were derived: the first day of a sign is the date on which the sun enters it in
 // the middle year of the half century (1625, 1675, ...), by the sun's apparent longitude (a
 // low-precision solar theory), reckoned from a sidereal zero that lies at 22.70 degrees at the
 // epoch 2000.0 and precesses, on a clock 3 h 11 min ahead of Greenwich's. The last day is the
 // day before the next sign's first.
 // clang-format off
-constexpr std::array<Era, 12> era_table{{
+constexpr std::array<Era, 12> eras{{
     {1600, 1649, {{
         {{ 7,  4}, { 7,  5}},  //  1
         {{ 8,  5}, { 7,  6}},  //  2
@@ -183,6 +181,8 @@ constexpr std::array<Era, 12> era_table{{
 }};
 // clang-format on
 
+namespace {
+
 constexpr int days_in(int month) { return NbrJours(month, 1999); }
 
 constexpr DayMonth day_after(DayMonth date) {
@@ -210,16 +210,15 @@ constexpr bool signs_join_without_a_gap(Era const& era) {
 }
 
 constexpr bool eras_follow_each_other() {
-    for (std::size_t i = 0; i < era_table.size(); ++i) {
+    for (std::size_t i = 0; i < eras.size(); ++i) {
         int const first = 1600 + 50 * static_cast<int>(i);
-        if (era_table[i].first_year != first || era_table[i].last_year != first + 49)
-            return false;
+        if (eras[i].first_year != first || eras[i].last_year != first + 49) return false;
     }
     return true;
 }
 
 constexpr bool every_era_is_whole() {
-    for (auto const& era : era_table) {
+    for (auto const& era : eras) {
         if (!signs_join_without_a_gap(era)) return false;
     }
     return true;
@@ -229,8 +228,6 @@ static_assert(eras_follow_each_other());
 static_assert(every_era_is_whole());
 
 }  // namespace
-
-std::array<Era, 12> const eras = era_table;
 
 std::optional<SunSign> sun_sign(Date date, int year) {
     YearMonthDay const day{date};

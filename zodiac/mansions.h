@@ -15,7 +15,7 @@ struct Mansion {
 
 inline constexpr int mansion_count = 27;
 
-/// @param number  1..27
+/// @param number  1..27; another one is a programming error.
 Mansion const& mansion(int number);
 
 /// The mansion of a sign and a position in it.

@@ -1,6 +1,8 @@
 // Numbers and readings of the consultation.
 #include "zodiac/number_texts.h"
 
+#include <utility>
+
 #include "shell/program.h"
 #include "zodiac/numbers.h"
 #include "zodiac/readings.h"

@@ -104,22 +104,18 @@ std::string description_palais(int palace) {
         text.append(text::line_break).append(content);
     };
     line(row.matters);
-    line(rule());
+    line(palace_rule());
     // The next heading follows the rule at once.
     text.append(row.people_heading);
     if (row.people) line(*row.people);
-    line(rule());
+    line(palace_rule());
     text.append("Parties du corps:");
     line(row.body);
     return text;
 }
 
-std::string const& rule() {
-    static std::string const twenty_one_overlines = [] {
-        std::string line;
-        for (int i = 0; i < 21; ++i) line.append("¯");
-        return line;
-    }();
+std::string const& palace_rule() {
+    static std::string const twenty_one_overlines = text::repeated("¯", 21);
     return twenty_one_overlines;
 }
 

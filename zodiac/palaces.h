@@ -17,15 +17,15 @@ struct QualityRow {
     screen::Colour back;
 };
 
-/// @param palace  1..12
+/// @param palace  1..12; another one is a programming error.
 Quality quality_of_palace(int palace);
 QualityRow const& row_of(Quality quality);
 
 /// What a palace stands for: three headed blocks.
-/// @param palace  1..12
+/// @param palace  1..12; another one is a programming error.
 std::string description_palais(int palace);
 
 /// The line of overlines that parts the blocks.
-std::string const& rule();
+std::string const& palace_rule();
 
 }  // namespace navarun

@@ -11,7 +11,7 @@ struct Sign {
     std::string_view text;
 };
 
-/// @param number  1..12
+/// @param number  1..12; another one is a programming error.
 Sign const& sign(int number);
 
 }  // namespace navarun

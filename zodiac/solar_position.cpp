@@ -3,9 +3,9 @@
 
 #include <optional>
 
+#include "core/cells.h"
 #include "core/julian_mode.h"
 #include "core/text.h"
-#include "periods/cycle_lords.h"
 #include "shell/program.h"
 #include "zodiac/eras.h"
 #include "zodiac/nakshatra.h"
@@ -94,7 +94,7 @@ void toggle_definition(Program& program, int cell) {
     definition.append(
         program.consultation.categorie_palais[static_cast<std::size_t>(cell - 1)]);
     definition.append(sign(sign_number).element);
-    definition.append(text::line_break).append(rule()).append(text::line_break);
+    definition.append(text::line_break).append(palace_rule()).append(text::line_break);
     definition.append(description_palais(palace));
     form.Text_definition_palais.Text = definition;
 }

@@ -113,9 +113,9 @@ QPixmap arrows(Stage& stage) {
     stage.consult_camille();
     stage.click(stage.form().MnuFleche);
     stage.act([&](screen::User& user) {
-        user.mouse(chart, "down", {1, 1900, 4300});
-        user.mouse(chart, "move", {1, 4400, 1500});
-        user.mouse(chart, "up", {1, 4400, 1500});
+        user.mouse(chart, screen::MouseEvent::down, {1, 1900, 4300});
+        user.mouse(chart, screen::MouseEvent::move, {1, 4400, 1500});
+        user.mouse(chart, screen::MouseEvent::up, {1, 4400, 1500});
     });
     return stage.picture(stage.form());
 }

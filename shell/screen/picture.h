@@ -1,7 +1,6 @@
 // Pictures by name: the model never holds pixels.
 #pragma once
 
-#include <compare>
 #include <string>
 #include <string_view>
 
@@ -22,6 +21,16 @@ class Picture {
 
   private:
     std::string m_name;
+};
+
+/// A picture file painted into a box, in pixels of the box.
+struct PaintedFile {
+    std::string path;
+    double x = 0;
+    double y = 0;
+    double width = 0;
+    double height = 0;
+    bool operator==(PaintedFile const&) const = default;
 };
 
 }  // namespace navarun::screen

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "shell/screen/entry.h"
+
 namespace navarun::screen {
 
 Form* Screen::find_form(std::string_view name) const {

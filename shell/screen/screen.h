@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "shell/screen/control.h"
+#include "shell/screen/form.h"
 
 namespace navarun::screen {
 

@@ -6,6 +6,10 @@
 
 #include "core/code_page.h"
 #include "core/text.h"
+#include "shell/screen/choice.h"
+#include "shell/screen/entry.h"
+#include "shell/screen/keys.h"
+#include "shell/screen/list.h"
 
 namespace navarun::screen {
 
@@ -220,11 +224,9 @@ void User::key(Control& control, int code) {
 }
 
 void User::press_button_of(Form const& form, int code) {
-    constexpr int enter = 13;
-    constexpr int escape = 27;
-    Button* const button = code == enter    ? form.default_button
-                           : code == escape ? form.cancel_button
-                                            : nullptr;
+    Button* const button = code == key::enter    ? form.default_button
+                           : code == key::escape ? form.cancel_button
+                                                 : nullptr;
     if (button != nullptr && button->can_be_used()) fire(button->on_click);
 }
 
@@ -244,18 +246,12 @@ void User::drop_file(Control& control, std::string const& path) {
     control.on_file_drop(path);
 }
 
-void User::mouse(Control& control, std::string_view event, Mouse const& where) {
-    static constexpr std::pair<std::string_view, std::function<void(Mouse const&)> Control::*>
-        events[]{
-            {"down", &Control::on_mouse_down},
-            {"move", &Control::on_mouse_move},
-            {"up", &Control::on_mouse_up},
-        };
-    auto const found =
-        std::ranges::find_if(events, [&](auto const& row) { return row.first == event; });
-    if (found == std::end(events)) throw BadValue{std::string{event}};
+void User::mouse(Control& control, MouseEvent event, Mouse const& where) {
     require_usable(control);
-    if (auto const& handler = control.*(found->second)) handler(where);
+    auto const& handler = event == MouseEvent::down   ? control.on_mouse_down
+                          : event == MouseEvent::move ? control.on_mouse_move
+                                                      : control.on_mouse_up;
+    if (handler) handler(where);
 }
 
 void User::close(Form& form) {

@@ -2,6 +2,7 @@
 // at a pipe. One place says what each act moves, writes and fires, and what no user could do.
 #pragma once
 
+#include <cstdint>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -9,6 +10,11 @@
 #include "shell/screen/screen.h"
 
 namespace navarun::screen {
+
+class CheckBox;
+class EntryControl;
+class OptionButton;
+class ScrollBar;
 
 /// An act that no user could do: the control is hidden, disabled or read-only, its window is
 /// closed, or it does not take what was meant for it.
@@ -29,6 +35,11 @@ class BadValue : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+/// What the mouse does in a control.
+enum class MouseEvent : std::uint8_t { down, move, up };
+
+/// The acts. Every one throws Refused where no user could do it; what else it throws stands
+/// with it.
 class User {
   public:
     explicit User(Screen& screen) : m_screen{&screen} {}
@@ -56,11 +67,13 @@ class User {
     void set_text(EntryControl& control, std::string_view text);
     /// Throws BadValue outside the range of the scroll bar.
     void set_position(ScrollBar& control, int value);
+    /// The same with the thumb, from where it stands.
     void drag(ScrollBar& control, int value);
     void set_option(OptionButton& control, bool chosen);
     void set_check(CheckBox& control, int mark);
 
-    /// Takes an entry of a combo or list by its place, from 0. Throws UnknownEntry.
+    /// Takes an entry of a combo or list by its place, from 0. Throws UnknownEntry where there
+    /// is none.
     void choose(Control& control, int entry);
     /// The same by its text.
     void choose(Control& control, std::string_view entry);
@@ -71,11 +84,11 @@ class User {
     /// KeyDown and KeyPress of a key code; the key edits nothing. While it lasts,
     /// key_held() tells the key.
     void key(Control& control, int code);
-    /// Drops what is dragged on `control`: drag over, then drop. Refused without a drag.
+    /// Drops what is dragged on `control`: drag over, then drop. Refused too without a drag.
     void drop(Control& control);
-    /// Drops a file from outside on `control`. Refused where it takes none.
+    /// Drops a file from outside on `control`. Refused too where it takes none.
     void drop_file(Control& control, std::string const& path);
-    void mouse(Control& control, std::string_view event, Mouse const& where);
+    void mouse(Control& control, MouseEvent event, Mouse const& where);
     void close(Form& form);
 
     /// The key that the user holds down; 0 for none.

@@ -298,5 +298,13 @@ TEST_P(ReplaceAll, Ends) {
 INSTANTIATE_TEST_SUITE_P(Texts, ReplaceAll, testing::ValuesIn(replace_cases),
                          [](auto const& row) { return row.param.name; });
 
+TEST(Repeated, StandsSoManyTimesInARow) {
+    EXPECT_EQ(text::repeated("¯", 3), "¯¯¯");
+    EXPECT_EQ(text::repeated(text::line_break, 2), "\r\n\r\n");
+    EXPECT_EQ(text::repeated("_", 1), "_");
+    EXPECT_EQ(text::repeated("_", 0), "");
+    EXPECT_EQ(text::repeated("_", -1), "");
+}
+
 }  // namespace
 }  // namespace navarun::test

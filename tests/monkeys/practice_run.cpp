@@ -21,6 +21,11 @@ double seconds_of(std::string const& time) {
            std::stoi(time.substr(6, 2));
 }
 
+screen::MouseEvent mouse_event_of(std::string const& name) {
+    if (name == "down") return screen::MouseEvent::down;
+    return name == "move" ? screen::MouseEvent::move : screen::MouseEvent::up;
+}
+
 }  // namespace
 
 void prepare(std::filesystem::path const& folder) {
@@ -164,7 +169,7 @@ void PracticeRun::act(Event const& event) {
             case Act::key:
                 return user.key(*control, event.number);
             case Act::mouse:
-                return user.mouse(*control, event.text,
+                return user.mouse(*control, mouse_event_of(event.text),
                                   {.button = event.number, .x = event.x, .y = event.y});
             case Act::drop:
                 return user.drop(*control);

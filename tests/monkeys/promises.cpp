@@ -5,10 +5,10 @@
 #include <array>
 
 #include "chart/colour_schemes.h"
+#include "core/cells.h"
 #include "core/code_page.h"
 #include "core/julian_calendar.h"
 #include "core/text.h"
-#include "periods/cycle_lords.h"
 #include "periods/lord_circle.h"
 #include "shell/image_store.h"
 #include "shell/names.h"

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/cells.h"
 #include "periods/cycle_lords.h"
 #include "tests/core/mismatches.h"
 
@@ -168,6 +169,11 @@ TEST(CellsRoundTheGrid, TwelveAndOneAreNeighbours) {
         EXPECT_EQ(cell_after(cell), cell + 1);
         EXPECT_EQ(cell_before(cell + 1), cell);
     }
+}
+
+TEST(CellsRoundTheGrid, ColumnZeroIsTheTwelfthCell) {
+    EXPECT_EQ(cell_of_column(0), 12);
+    for (int column = 1; column <= 12; ++column) EXPECT_EQ(cell_of_column(column), column);
 }
 
 }  // namespace

@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "core/calendar.h"
-#include "periods/cycle_lords.h"
+#include "core/cells.h"
 #include "periods/dasha_schedule.h"
 #include "tests/core/mismatches.h"
 #include "tests/periods/circle_walk.h"

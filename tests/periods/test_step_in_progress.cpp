@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "periods/cycle_lords.h"
+#include "core/cells.h"
 #include "periods/step_in_progress.h"
 
 namespace navarun::test {

@@ -51,7 +51,7 @@ TEST_P(PalaceQuality, IsTheOneOfThePalace) {
 INSTANTIATE_TEST_SUITE_P(Palaces, PalaceQuality, testing::ValuesIn(quality_cases),
                          [](auto const& row) { return row.param.name; });
 
-TEST(Rule, IsALineOfTwentyOneOverlines) { EXPECT_EQ(rule(), twenty_one_overlines); }
+TEST(Rule, IsALineOfTwentyOneOverlines) { EXPECT_EQ(palace_rule(), twenty_one_overlines); }
 
 struct PalaceRow {
     int number;

@@ -107,6 +107,13 @@ double read_time(std::string_view text) {
     return hours * 3600 + minutes * 60 + seconds;
 }
 
+screen::MouseEvent mouse_event_of(std::string const& name) {
+    if (name == "down") return screen::MouseEvent::down;
+    if (name == "move") return screen::MouseEvent::move;
+    if (name == "up") return screen::MouseEvent::up;
+    throw UsageError{name};
+}
+
 Json const ok{{"ok", true}};
 
 }  // namespace
@@ -372,12 +379,13 @@ Json Pilot::key(Json const& request) {
 
 Json Pilot::mouse(Json const& request) {
     auto& control = control_of(request);
-    std::string const event = string_of(request, "event");
+    std::string const told = string_of(request, "event");
     screen::Mouse const where{
         .button = integer_of(member(request, "button"), "button"),
         .x = number_of(member(request, "x"), "x"),
         .y = number_of(member(request, "y"), "y"),
     };
+    auto const event = mouse_event_of(told);
     m_program.event([&](screen::User& user) { user.mouse(control, event, where); });
     return ok;
 }
