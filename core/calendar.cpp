@@ -72,19 +72,6 @@ void put_date(char* text, unsigned day_number, unsigned month_number, unsigned y
     put(8, year_number % 100);
 }
 
-// The dates that the program wrote itself, which are nearly all that it reads: two, two and
-// four digits. Empty for any other wording.
-std::optional<YearMonthDay> read_as_written(std::string_view text) {
-    if (text.size() != 10 || text[2] != '/' || text[5] != '/') return {};
-    std::array<int, 10> digits{};
-    for (std::size_t const at : {0U, 1U, 3U, 4U, 6U, 7U, 8U, 9U}) {
-        digits[at] = text[at] - '0';
-        if (digits[at] < 0 || digits[at] > 9) return {};
-    }
-    auto const pair = [&](std::size_t at) { return 10 * digits[at] + digits[at + 1]; };
-    return parts_of(pair(0), pair(3), 100 * pair(6) + pair(8));
-}
-
 std::optional<Date> serial_of(std::optional<YearMonthDay> const& date) {
     if (!date) return {};
     return Date{*date};
@@ -101,10 +88,11 @@ std::optional<Date> read_date(std::string_view text) {
 }
 
 std::optional<YearMonthDay> read_date_parts(std::string_view text) {
-    if (auto const date = read_as_written(text)) return date;
-    auto const first = text.find('/');
+    // The dates that the program wrote itself are nearly all that it reads.
+    bool const as_written = text.size() == 10 && text[2] == '/' && text[5] == '/';
+    auto const first = as_written ? 2 : text.find('/');
     if (first == std::string_view::npos) return {};
-    auto const second = text.find('/', first + 1);
+    auto const second = as_written ? 5 : text.find('/', first + 1);
     if (second == std::string_view::npos) return {};
     auto const day_text = without_blanks_at(text.substr(0, first), false, true);
     auto const month_text =
@@ -123,7 +111,7 @@ std::string write_date(YearMonthDay date) {
     return text;
 }
 
-DateText::DateText(int day_number, int month_number, int year_number) {
+void DateText::set(int day_number, int month_number, int year_number) {
     put_date(m_characters.data(), static_cast<unsigned>(day_number),
              static_cast<unsigned>(month_number), static_cast<unsigned>(year_number));
 }

@@ -10,12 +10,11 @@
 
 namespace navarun {
 
-/// A date text by itself, without a string's memory.
+/// A date text by itself, without a string's memory; at first the one of no day.
 class DateText {
   public:
-    DateText() = default;
     /// REQUIRES a day and a month of two digits; of the year, 0 or more, the last four count.
-    DateText(int day, int month, int year);
+    void set(int day, int month, int year);
     operator std::string_view() const { return {m_characters.data(), m_characters.size()}; }
 
   private:

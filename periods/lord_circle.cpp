@@ -38,12 +38,19 @@ constexpr bool start_ages_add_the_durations_up() {
 }
 static_assert(start_ages_add_the_durations_up());
 
+// By the number of the lord.
+constexpr auto places = [] {
+    std::array<int, circle.size()> places_by_lord{};
+    for (std::size_t i = 0; i < circle.size(); ++i) {
+        places_by_lord[static_cast<std::size_t>(number_of(circle[i].lord) - 1)] =
+            static_cast<int>(i) + 1;
+    }
+    return places_by_lord;
+}();
+
 }  // namespace
 
-int circle_place(Lord lord) {
-    auto const found = std::ranges::find(circle, lord, &CircleRow::lord);
-    return static_cast<int>(found - circle.begin()) + 1;
-}
+int circle_place(Lord lord) { return places[static_cast<std::size_t>(number_of(lord) - 1)]; }
 
 std::optional<int> sequence_of_mansion(int number) {
     if (number < 1 || number > mansion_count) return {};

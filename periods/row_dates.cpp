@@ -16,7 +16,7 @@ std::optional<RowDates> row_dates(std::string_view first_day, int months, bool s
         int const month_of_year = month % 12 + 1;
         int day = std::min(birthday, NbrJours(month_of_year, year));
         if (shows_29th) day = fevrier29(day, month_of_year, year);
-        date = DateText{day, month_of_year, year};
+        date.set(day, month_of_year, year);
         month += months;
     }
     return dates;
