@@ -3,13 +3,18 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDesktopServices>
+#include <QFile>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QTextBrowser>
 #include <QTimer>
+#include <QUrl>
 
 #include "desktop/label_widget.h"
+#include "files/durable_file.h"
 #include "tests/desktop/window_fixture.h"
 
 namespace navarun::test {
@@ -273,6 +278,50 @@ TEST_F(Window, LeavingDuringATransientMessageAbandonsIt) {
     click(form().Command_DateNow);
     EXPECT_TRUE(shown);
     EXPECT_EQ(session().exit_status(), 0);
+    EXPECT_EQ(ends, 1);
+}
+
+// Who started the program learns that it failed, whatever was waiting when it did.
+TEST_F(Window, AFatalErrorDuringATransientMessageEndsTheRunAsAFailure) {
+    std::string const name = "Portrait.jpg";
+    write_file(session().program().path_of("RESSOURCES/IMAGE/" + name), "no picture", name);
+    click(form().Bouton_Image);
+    bool shown = false;
+    QTimer::singleShot(200, &window(), [&] {
+        shown = widget(form().frame_messageSauve).isVisible();
+        answer_next_box("OK");
+        session().act([&](screen::User& user) {
+            user.choose(form().File_Fichier, name);
+            user.double_click(form().File_Fichier);
+        });
+    });
+    // Nothing has been chosen: a message tells so for a while.
+    click(form().Command_reset);
+    EXPECT_TRUE(shown);
+    EXPECT_TRUE(last_box_text.contains(QString::fromStdString(name)));
+    EXPECT_EQ(session().exit_status(), 1);
+    EXPECT_EQ(ends, 1);
+}
+
+// Whoever sees nothing happen starts the program once more; it says so and goes, and what the
+// first one has handed to a reader of texts stays.
+TEST_F(Window, ASecondStartLeavesTheTextsOfTheFirst) {
+    QTextBrowser reader;
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), &reader, "setSource");
+    auto const folder = session().program().application_folder;
+    auto const text = folder / "Marie Dupont.txt";
+    write_file(text, "MARIE DUPONT\r\n", "Marie Dupont.txt");
+    session().view_text(text, "Marie Dupont");
+    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+    QString const copy = reader.source().toLocalFile();
+    ASSERT_TRUE(copy.endsWith(QStringLiteral("/1/Marie Dupont.txt"))) << copy.toStdString();
+    {
+        desktop::Session second{folder, [] {}};
+        answer_next_box("OK");
+        second.start();
+        EXPECT_EQ(second.exit_status(), 0);
+    }
+    EXPECT_TRUE(QFile::exists(copy));
 }
 
 }  // namespace
