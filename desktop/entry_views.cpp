@@ -5,7 +5,9 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QTimer>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <algorithm>
 
 namespace navarun::desktop {
 
@@ -35,6 +37,19 @@ Entered entered(QString const& text, int caret) {
     };
     QString const before = composed(text.left(caret));
     return {from_qt(composed(text)), in_characters(before, before.size())};
+}
+
+// The text of a note with all its blanks: the toolkit's plain text turns those that do not
+// break into common ones.
+QString text_of(QPlainTextEdit const& edit) {
+    return edit.document()
+        ->toRawText()
+        .replace(QChar::ParagraphSeparator, QLatin1Char('\n'))
+        .replace(QChar::LineSeparator, QLatin1Char('\n'));
+}
+
+Entered entered(QPlainTextEdit const& edit) {
+    return entered(text_of(edit), edit.textCursor().position());
 }
 
 void set_fields_colours(QWidget& widget, screen::TextControl const& control) {
@@ -216,7 +231,7 @@ TextAreaView::TextAreaView(Session& session, screen::TextArea& area, QWidget& pa
     tell_focus(session, area, edit);
     QObject::connect(&edit, &QPlainTextEdit::textChanged, &edit, [this] {
         if (this->control().read_only()) return;
-        auto const now = entered(shown().toPlainText(), shown().textCursor().position());
+        auto const now = entered(shown());
         this->session().act(
             [&](screen::User& user) { user.edit(this->control(), now.text, now.caret); });
     });
@@ -227,9 +242,15 @@ void TextAreaView::show_content() {
     edit.setFont(font_of(control()));
     set_fields_colours(edit, control());
     QString const text = to_qt(control().Text.get());
-    if (edit.toPlainText() == text) return;
+    if (text_of(edit) == text) return;
     QSignalBlocker const silent{edit};
+    int const caret = entered(edit).caret;
     edit.setPlainText(text);
+    if (!edit.hasFocus()) return;
+    // A letter replaced by its nearest must not send the next one to the front.
+    QTextCursor cursor = edit.textCursor();
+    cursor.setPosition(in_utf16(text, caret));
+    edit.setTextCursor(cursor);
 }
 
 ComboView::ComboView(Session& session, screen::Combo& combo, QWidget& parent)

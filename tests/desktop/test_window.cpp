@@ -10,6 +10,7 @@
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTextBrowser>
+#include <QTextCursor>
 #include <QTimer>
 #include <QUrl>
 
@@ -184,6 +185,43 @@ TEST_F(Window, ANoteKeepsItsLines) {
     press(Qt::Key_Return);
     type("deux");
     EXPECT_EQ(form().Text_Note.Text.get(), "un\r\ndeux");
+}
+
+// A letter that no record holds becomes its nearest, and the next one stands behind it.
+TEST_F(Window, ALetterReplacedInTheNoteLeavesTheCaretBehindIt) {
+    auto& note = dynamic_cast<QPlainTextEdit&>(widget(form().Text_Note));
+    note.setFocus(Qt::TabFocusReason);
+    type("un");
+    press(Qt::Key_Return);
+    type("ab");
+    press(Qt::Key_Left);
+    type("łz");
+    EXPECT_EQ(form().Text_Note.Text.get(), "un\r\nalzb");
+    EXPECT_EQ(note.toPlainText(), "un\nalzb");
+    EXPECT_EQ(note.textCursor().position(), 6);
+}
+
+TEST_F(Window, AnAccentPastedAsACharacterOfItsOwnLeavesTheCaretBehindItsLetter) {
+    auto& note = dynamic_cast<QPlainTextEdit&>(widget(form().Text_Note));
+    note.setFocus(Qt::TabFocusReason);
+    type("ab");
+    press(Qt::Key_Left);
+    QApplication::clipboard()->setText(QStringLiteral("Rene\u0301e"));
+    press(Qt::Key_V, Qt::ControlModifier);
+    type("!");
+    EXPECT_EQ(form().Text_Note.Text.get(), "aRenée!b");
+}
+
+// French writes them before its colons and inside its numbers.
+TEST_F(Window, ANoteKeepsItsBlanksThatDoNotBreak) {
+    auto& note = dynamic_cast<QPlainTextEdit&>(widget(form().Text_Note));
+    std::string const sum = "Prix\u00A0: 10\u00A0000\u00A0F";
+    session().act([&](screen::User&) { form().Text_Note.Text = sum; });
+    note.setFocus(Qt::TabFocusReason);
+    note.moveCursor(QTextCursor::End);
+    type("r");
+    EXPECT_EQ(form().Text_Note.Text.get(), sum + "r");
+    EXPECT_EQ(note.textCursor().position(), 16);
 }
 
 TEST_F(Window, AMenuAndASwitchOfWindowsDoNotLeaveAHalfTypedField) {
