@@ -117,10 +117,16 @@ class DateKeys : public QObject {
             case QEvent::DragEnter:
             case QEvent::Drop:
                 return true;
+            case QEvent::MouseButtonPress:
             case QEvent::MouseButtonRelease:
-                if (watched != m_box.lineEdit()) return false;
+            case QEvent::MouseButtonDblClick:
+                // The middle button would paste what is marked elsewhere.
+                if (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) return true;
                 // A click offers the whole text to the next digit.
-                m_session.act([&](screen::User& user) { user.click(m_combo); });
+                if (watched == m_box.lineEdit() &&
+                    event->type() == QEvent::MouseButtonRelease) {
+                    m_session.act([&](screen::User& user) { user.click(m_combo); });
+                }
                 return false;
             default:
                 return false;

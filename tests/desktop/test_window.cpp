@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTextBrowser>
@@ -65,6 +66,32 @@ TEST_F(Window, ANamePastedWithItsLineEndIsTheName) {
     EXPECT_EQ(form().Text_nom.Text.get(), "Dupont de Nemours");
     EXPECT_EQ(static_cast<QLineEdit&>(widget(form().Text_nom)).text(),
               QStringLiteral("Dupont de Nemours"));
+}
+
+// Where marking a text is copying it, the middle button pastes it.
+TEST_F(Window, AnotherButtonThanTheLeftOneDoesNothingInADateField) {
+    auto& box = dynamic_cast<QComboBox&>(widget(form().Combo_moisNaiss));
+    auto& line = *box.lineEdit();
+    click(form().Combo_moisNaiss);
+    ASSERT_EQ(line.selectedText(), "01");
+    auto& copied = *QApplication::clipboard();
+    for (auto const button : {Qt::MiddleButton, Qt::RightButton}) {
+        for (auto const type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                                QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+            if (copied.supportsSelection()) {
+                copied.setText(QStringLiteral("07"), QClipboard::Selection);
+            }
+            QPointF const end{line.width() - 2.0, line.height() / 2.0};
+            bool const held = type != QEvent::MouseButtonRelease;
+            QMouseEvent event{
+                type,          end, line.mapToGlobal(end), button, held ? button : Qt::NoButton,
+                Qt::NoModifier};
+            QApplication::sendEvent(&line, &event);
+            EXPECT_EQ(line.text(), "01") << button << ' ' << type;
+            EXPECT_EQ(line.selectedText(), "01") << button << ' ' << type;
+        }
+    }
+    EXPECT_EQ(form().Combo_moisNaiss.Text.get(), "01");
 }
 
 TEST_F(Window, DigitsOfAnInputMethodPassTheSameFilter) {
