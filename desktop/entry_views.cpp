@@ -67,7 +67,10 @@ class KeyPressFilter : public QObject {
 
     bool eventFilter(QObject*, QEvent* event) override {
         if (event->type() != QEvent::KeyPress || !m_control.on_key_press) return false;
-        auto const text = static_cast<QKeyEvent*>(event)->text().toUcs4();
+        auto const& pressed = *static_cast<QKeyEvent*>(event);
+        // Who only passes through the field writes nothing.
+        if (pressed.key() == Qt::Key_Tab || pressed.key() == Qt::Key_Backtab) return false;
+        auto const text = pressed.text().toUcs4();
         bool swallowed = false;
         for (auto const character : text) {
             m_session.act([&](screen::User& user) {

@@ -231,6 +231,20 @@ TEST_F(Keyboard, AnAddressIsOpenedByEnter) {
     EXPECT_TRUE(opened);
 }
 
+TEST_F(Keyboard, PassingThroughTheFieldOfAnAddressMarksNothingAsUnsaved) {
+    click(form().Bouton_Internet);
+    widget(form().Text_New_URL).setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Tab);
+    EXPECT_NE(keyboard(), &widget(form().Text_New_URL));
+    EXPECT_EQ(form().Command_Disk_Vert.Picture.get().name(), "Diskette(0)");
+    widget(form().Text_New_URL).setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(form().Command_Disk_Vert.Picture.get().name(), "Diskette(0)");
+    widget(form().Text_New_URL).setFocus(Qt::TabFocusReason);
+    type("a");
+    EXPECT_EQ(form().Command_Disk_Vert.Picture.get().name(), "Diskette(1)");
+}
+
 TEST_F(Keyboard, TheWidthOfAnArrowIsChosenByTheArrowsAndEnter) {
     choose_menu(form().MnuFleche);
     auto& window_of_arrows = session().program().fleche;
