@@ -86,8 +86,8 @@ class KeyPressFilter : public QObject {
     screen::EntryControl& m_control;
 };
 
-// A date field whose list is as wide as its entries, though the field is not. The list is made
-// when it is first opened.
+// A date field whose list is as wide as its entries, though the field is not. To measure them
+// all can wait until it is first opened.
 class DateBox : public QComboBox {
   public:
     using QComboBox::QComboBox;
