@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QListView>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QScrollBar>
@@ -366,6 +367,31 @@ TEST_F(Window, AFatalErrorDuringATransientMessageEndsTheRunAsAFailure) {
     EXPECT_TRUE(last_box_text.contains(QString::fromStdString(name)));
     EXPECT_EQ(session().exit_status(), 1);
     EXPECT_EQ(ends, 1);
+}
+
+TEST_F(Window, AClickOnARowIsToldOnce) {
+    click(form().Bouton_Internet);
+    auto& view = dynamic_cast<QListView&>(widget(form().List_Internet));
+    int told = 0;
+    form().List_Internet.on_click = [&] { ++told; };
+    auto const click_on = [&](int row) {
+        auto const place = view.visualRect(view.model()->index(row, 0)).center();
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    };
+    click_on(2);
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(form().List_Internet.ListIndex, 2);
+    click_on(2);
+    EXPECT_EQ(told, 2) << "the chosen row answers too";
+    view.setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Down);
+    EXPECT_EQ(told, 3);
+    click_on(3);
+    EXPECT_EQ(told, 4) << "chosen by a key before";
+    QTest::mousePress(view.viewport(), Qt::LeftButton, Qt::NoModifier,
+                      view.visualRect(view.model()->index(1, 0)).center());
+    EXPECT_EQ(told, 5) << "told by the press already";
+    EXPECT_EQ(form().List_Internet.ListIndex, 1);
 }
 
 // Whoever sees nothing happen starts the program once more; it says so and goes, and what the
