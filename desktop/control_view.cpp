@@ -8,7 +8,7 @@
 #include <QPainter>
 #include <QRadioButton>
 #include <QScrollBar>
-#include <QStyleOption>
+#include <algorithm>
 
 #include "desktop/entry_views.h"
 #include "desktop/label_widget.h"

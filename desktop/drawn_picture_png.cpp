@@ -1,5 +1,4 @@
 // Pictures from what the build made of their vectors, at one, two and three times their size.
-#include <QFile>
 #include <QImage>
 #include <algorithm>
 #include <array>

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QResource>
 #include <QSvgRenderer>
+#include <utility>
 
 #include "desktop/ahead_image.h"
 #include "desktop/drawn_picture.h"

@@ -5,7 +5,9 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QTimer>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <algorithm>
 
 namespace navarun::desktop {
 
@@ -37,6 +39,19 @@ Entered entered(QString const& text, int caret) {
     return {from_qt(composed(text)), in_characters(before, before.size())};
 }
 
+// The text of a note with all its blanks: the toolkit's plain text turns those that do not
+// break into common ones.
+QString text_of(QPlainTextEdit const& edit) {
+    return edit.document()
+        ->toRawText()
+        .replace(QChar::ParagraphSeparator, QLatin1Char('\n'))
+        .replace(QChar::LineSeparator, QLatin1Char('\n'));
+}
+
+Entered entered(QPlainTextEdit const& edit) {
+    return entered(text_of(edit), edit.textCursor().position());
+}
+
 void set_fields_colours(QWidget& widget, screen::TextControl const& control) {
     set_colour(widget, QPalette::Base, to_qt(control.BackColor.get()));
     set_colour(widget, QPalette::Text, to_qt(control.ForeColor.get()));
@@ -52,7 +67,10 @@ class KeyPressFilter : public QObject {
 
     bool eventFilter(QObject*, QEvent* event) override {
         if (event->type() != QEvent::KeyPress || !m_control.on_key_press) return false;
-        auto const text = static_cast<QKeyEvent*>(event)->text().toUcs4();
+        auto const& pressed = *static_cast<QKeyEvent*>(event);
+        // Who only passes through the field writes nothing.
+        if (pressed.key() == Qt::Key_Tab || pressed.key() == Qt::Key_Backtab) return false;
+        auto const text = pressed.text().toUcs4();
         bool swallowed = false;
         for (auto const character : text) {
             m_session.act([&](screen::User& user) {
@@ -68,8 +86,8 @@ class KeyPressFilter : public QObject {
     screen::EntryControl& m_control;
 };
 
-// A date field whose list is as wide as its entries, though the field is not. The list is made
-// when it is first opened.
+// A date field whose list is as wide as its entries, though the field is not. To measure them
+// all can wait until it is first opened.
 class DateBox : public QComboBox {
   public:
     using QComboBox::QComboBox;
@@ -102,10 +120,16 @@ class DateKeys : public QObject {
             case QEvent::DragEnter:
             case QEvent::Drop:
                 return true;
+            case QEvent::MouseButtonPress:
             case QEvent::MouseButtonRelease:
-                if (watched != m_box.lineEdit()) return false;
+            case QEvent::MouseButtonDblClick:
+                // The middle button would paste what is marked elsewhere.
+                if (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) return true;
                 // A click offers the whole text to the next digit.
-                m_session.act([&](screen::User& user) { user.click(m_combo); });
+                if (watched == m_box.lineEdit() &&
+                    event->type() == QEvent::MouseButtonRelease) {
+                    m_session.act([&](screen::User& user) { user.click(m_combo); });
+                }
                 return false;
             default:
                 return false;
@@ -216,7 +240,7 @@ TextAreaView::TextAreaView(Session& session, screen::TextArea& area, QWidget& pa
     tell_focus(session, area, edit);
     QObject::connect(&edit, &QPlainTextEdit::textChanged, &edit, [this] {
         if (this->control().read_only()) return;
-        auto const now = entered(shown().toPlainText(), shown().textCursor().position());
+        auto const now = entered(shown());
         this->session().act(
             [&](screen::User& user) { user.edit(this->control(), now.text, now.caret); });
     });
@@ -227,9 +251,15 @@ void TextAreaView::show_content() {
     edit.setFont(font_of(control()));
     set_fields_colours(edit, control());
     QString const text = to_qt(control().Text.get());
-    if (edit.toPlainText() == text) return;
+    if (text_of(edit) == text) return;
     QSignalBlocker const silent{edit};
+    int const caret = entered(edit).caret;
     edit.setPlainText(text);
+    if (!edit.hasFocus()) return;
+    // A letter replaced by its nearest must not send the next one to the front.
+    QTextCursor cursor = edit.textCursor();
+    cursor.setPosition(in_utf16(text, caret));
+    edit.setTextCursor(cursor);
 }
 
 ComboView::ComboView(Session& session, screen::Combo& combo, QWidget& parent)

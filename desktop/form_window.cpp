@@ -265,8 +265,7 @@ void FormWindow::fit_to_screen() {
     QSize const frame = frameGeometry().size() - size();
     // Between scaled pixels and those of the screen there is some rounding.
     constexpr int air = 8;
-    QRect const whole_screen = screen()->availableGeometry();
-    QRect const screen_room = whole_screen.adjusted(air / 2, air / 2, -air / 2, -air / 2);
+    QRect const screen_room = room_on_screen().adjusted(air / 2, air / 2, -air / 2, -air / 2);
     QSize const room = screen_room.size() - frame;
     // A bar that scrolls one way takes room the other way.
     int const bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
@@ -278,7 +277,7 @@ void FormWindow::fit_to_screen() {
     resize(wanted.boundedTo(room));
     QPoint place = screen_room.center() - QRect{QPoint{0, 0}, size() + frame}.center();
     if (!is_main()) {
-        auto const& main = *m_session.window(m_session.program().form1);
+        auto const& main = main_window();
         QSize const scrolled{main.m_area->horizontalScrollBar()->value(),
                              main.m_area->verticalScrollBar()->value()};
         place = main.m_canvas->mapToGlobal(
@@ -297,7 +296,7 @@ void FormWindow::fit_to_screen() {
 void FormWindow::fit_with_frame() {
     if (m_fits_with_frame || !isVisible() || frameGeometry() == geometry()) return;
     m_fits_with_frame = true;
-    if (!screen()->availableGeometry().contains(frameGeometry())) fit_to_screen();
+    if (!room_on_screen().contains(frameGeometry())) fit_to_screen();
 }
 
 bool FormWindow::event(QEvent* event) {
@@ -318,6 +317,15 @@ bool FormWindow::event(QEvent* event) {
 }
 
 bool FormWindow::is_main() const { return &m_form == &m_session.program().form1; }
+
+FormWindow& FormWindow::main_window() const {
+    return *m_session.window(m_session.program().form1);
+}
+
+QRect FormWindow::room_on_screen() const {
+    // A window that was never shown knows no screen but the first.
+    return main_window().screen()->availableGeometry();
+}
 
 void FormWindow::show_control(screen::Control const& control) {
     if (&control == &m_form) {

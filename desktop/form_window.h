@@ -62,6 +62,9 @@ class FormWindow : public QMainWindow {
     void fit_to_screen();
     void fit_with_frame();
     bool is_main() const;
+    FormWindow& main_window() const;
+    /// What the screen of the main window leaves to the program; in its pixels.
+    QRect room_on_screen() const;
 
     Session& m_session;
     screen::Form& m_form;

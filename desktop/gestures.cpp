@@ -6,6 +6,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QUrl>
+#include <utility>
 
 #include "desktop/session.h"
 #include "desktop/to_qt.h"

@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/copy_menu.h"
 
@@ -65,6 +66,42 @@ class ListKeys : public QObject {
   private:
     Session& m_session;
     screen::List& m_list;
+};
+
+// A row is chosen at the press of the button or by a key; a click on the row that is chosen
+// already is told at its end. Each is told once.
+class RowChoices : public QObject {
+  public:
+    RowChoices(Session& session, screen::List& list, QListView& view)
+        : QObject{&view}, m_session{session}, m_list{list} {
+        view.viewport()->installEventFilter(this);
+        QObject::connect(view.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+                         [this](QItemSelection const& selected) {
+                             if (selected.isEmpty()) return;
+                             int const row = selected.indexes().front().row();
+                             if (row == m_list.ListIndex) return;
+                             m_told_by_press = true;
+                             choose(row);
+                         });
+        QObject::connect(&view, &QListView::clicked, this, [this](QModelIndex const& at) {
+            if (!std::exchange(m_told_by_press, false)) choose(at.row());
+        });
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        // What a key has chosen since is no part of the click that begins here.
+        if (event->type() == QEvent::MouseButtonPress) m_told_by_press = false;
+        return false;
+    }
+
+  private:
+    void choose(int row) {
+        m_session.act([&](screen::User& user) { user.choose(m_list, row); });
+    }
+
+    Session& m_session;
+    screen::List& m_list;
+    bool m_told_by_press = false;
 };
 
 // The right button offers texts for copying and does nothing else: a choice may load, move or
@@ -159,26 +196,14 @@ ListView::ListView(Session& session, screen::List& list, QWidget& parent)
     view.setEditTriggers(QAbstractItemView::NoEditTriggers);
     view.setUniformItemSizes(true);
     view.setTextElideMode(Qt::ElideRight);
-    view.setMouseTracking(true);
     new ListKeys{session, list, view};
     new ListMenu{list, view};
     tell_focus(session, list, view);
     tell_pointer(session, list, *view.viewport());
-    QObject::connect(&view, &QListView::clicked, &view,
-                     [this](QModelIndex const& at) { choose(at.row()); });
-    QObject::connect(view.selectionModel(), &QItemSelectionModel::selectionChanged, &view,
-                     [this](QItemSelection const& selected) {
-                         if (selected.isEmpty()) return;
-                         int const row = selected.indexes().front().row();
-                         if (row != this->control().ListIndex) choose(row);
-                     });
+    new RowChoices{session, list, view};
     QObject::connect(&view, &QListView::doubleClicked, &view, [this] {
         this->session().act([this](screen::User& user) { user.double_click(this->control()); });
     });
-}
-
-void ListView::choose(int row) {
-    session().act([&](screen::User& user) { user.choose(control(), row); });
 }
 
 void ListView::show_content() {

@@ -32,8 +32,6 @@ class ListView : public PlacedView<screen::List, QListView> {
     void show_content() override;
 
   private:
-    void choose(int row);
-
     EntriesModel m_model;
 };
 

@@ -10,6 +10,7 @@
 #include <QPrinterInfo>
 #include <QTemporaryFile>
 #include <cmath>
+#include <utility>
 
 #include "desktop/page_painter.h"
 

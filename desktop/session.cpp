@@ -48,15 +48,15 @@ void name_parts(QMessageBox& box, QString const& kind) {
 }  // namespace
 
 Session::Session(std::filesystem::path application_folder, std::function<void()> on_end)
-    : m_program{*this, std::move(application_folder)},
-      m_text_viewer{private_folder(m_program.application_folder)},
-      m_on_end{std::move(on_end)} {}
+    : m_program{*this, std::move(application_folder)}, m_on_end{std::move(on_end)} {}
 
 Session::~Session() = default;
 
 void Session::start() {
     try {
         m_program.start();
+        // Not before: the texts of a run that goes on in this folder are open in their viewers.
+        m_text_viewer.emplace(private_folder(m_program.application_folder));
     } catch (ProgramEnded const&) {
         end(0);
     } catch (FatalError const&) {
@@ -123,6 +123,8 @@ screen::Control* Session::control_of(QWidget const& inner) const {
 }
 
 void Session::end(int exit_status) {
+    // What an inner event has ended, the waits round it only leave.
+    if (m_exit_status) return;
     m_exit_status = exit_status;
     for (auto const& shown : m_windows) shown->hide();
     // The innermost wait is left first; it then throws the operation that waits out.
@@ -193,7 +195,7 @@ void Session::start_program(OutsideProgram wanted) {
 bool Session::has_text_viewer() { return TextViewer::is_installed(); }
 
 void Session::view_text(std::filesystem::path const& file, std::string const&) {
-    m_text_viewer.show(QString::fromStdString(path_text(file)));
+    if (m_text_viewer) m_text_viewer->show(QString::fromStdString(path_text(file)));
 }
 
 PictureSize Session::picture_size(std::filesystem::path const& file) {

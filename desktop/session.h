@@ -66,7 +66,7 @@ class Session : public Platform {
     Program m_program;
     std::vector<std::unique_ptr<FormWindow>> m_windows;
     DragMode m_drag_mode{*this};
-    TextViewer m_text_viewer;
+    std::optional<TextViewer> m_text_viewer;  // once the folder is known to be this run's
     Printer m_printer;
     QEventLoop* m_waiting = nullptr;
     std::optional<int> m_exit_status;

@@ -137,7 +137,6 @@ void show_name(QWidget& widget, QString const& name) {
     widget.setAccessibleName(name);
     if (auto* const combo = qobject_cast<QComboBox*>(&widget)) {
         if (combo->lineEdit() != nullptr) combo->lineEdit()->setAccessibleName(name);
-        combo->view()->setAccessibleName(name);
         show_name(*combo->view(), name);
     }
     if (auto* const area = qobject_cast<QAbstractScrollArea*>(&widget)) {

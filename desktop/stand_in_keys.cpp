@@ -7,7 +7,9 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QUrl>
+#include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "desktop/form_window.h"
 #include "desktop/session.h"

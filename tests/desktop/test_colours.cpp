@@ -6,30 +6,17 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QToolTip>
-#include <cmath>
+#include <algorithm>
 
 #include <gtest/gtest.h>
 
 #include "desktop/application.h"
+#include "tests/desktop/contrast.h"
 #include "tests/desktop/window_fixture.h"
 
 namespace navarun::test {
 
 namespace {
-
-double luminance(QColor const& colour) {
-    auto const linear = [](double part) {
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
-}
-
-double contrast(QColor const& a, QColor const& b) {
-    double const first = luminance(a) + 0.05;
-    double const second = luminance(b) + 0.05;
-    return std::max(first, second) / std::min(first, second);
-}
 
 QPalette dark_desktop() {
     QPalette dark;

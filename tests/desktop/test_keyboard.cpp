@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QFocusFrame>
+#include <QImage>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
@@ -45,6 +46,13 @@ class Keyboard : public Window {
         auto const file = session().program().path_of(path);
         std::filesystem::create_directories(file.parent_path());
         write_file(file, bytes, path);
+    }
+
+    // As the desktop's browser of files does.
+    void copy_file(std::filesystem::path const& file) {
+        auto* const copied = new QMimeData;
+        copied->setUrls({QUrl::fromLocalFile(QString::fromStdString(file.string()))});
+        QApplication::clipboard()->setMimeData(copied);
     }
 
     std::string const& clipboard() {
@@ -199,7 +207,6 @@ TEST_F(Keyboard, ARecordIsMovedToTheOtherFolder) {
     press(Qt::Key_Tab);
     EXPECT_EQ(keyboard(), &widget(form().Charge(2)));
     EXPECT_EQ(session().program().screen.focus(), &form().File_Fichier);
-    answer_next_box("OK");
     press(Qt::Key_Return);
     EXPECT_EQ(session().program().screen.dragged(), nullptr);
     EXPECT_TRUE(FileExists(session().program().path_of("RESSOURCES/DATA2/B A.fcy")));
@@ -231,6 +238,20 @@ TEST_F(Keyboard, AnAddressIsOpenedByEnter) {
     EXPECT_TRUE(opened);
 }
 
+TEST_F(Keyboard, PassingThroughTheFieldOfAnAddressMarksNothingAsUnsaved) {
+    click(form().Bouton_Internet);
+    widget(form().Text_New_URL).setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Tab);
+    EXPECT_NE(keyboard(), &widget(form().Text_New_URL));
+    EXPECT_EQ(form().Command_Disk_Vert.Picture.get().name(), "Diskette(0)");
+    widget(form().Text_New_URL).setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(form().Command_Disk_Vert.Picture.get().name(), "Diskette(0)");
+    widget(form().Text_New_URL).setFocus(Qt::TabFocusReason);
+    type("a");
+    EXPECT_EQ(form().Command_Disk_Vert.Picture.get().name(), "Diskette(1)");
+}
+
 TEST_F(Keyboard, TheWidthOfAnArrowIsChosenByTheArrowsAndEnter) {
     choose_menu(form().MnuFleche);
     auto& window_of_arrows = session().program().fleche;
@@ -242,6 +263,27 @@ TEST_F(Keyboard, TheWidthOfAnArrowIsChosenByTheArrowsAndEnter) {
     for (int i = 0; i < 4; ++i) press(Qt::Key_Down);
     press(Qt::Key_Return);
     EXPECT_GT(session().program().arrow.epaisseur_fleche, 1);
+}
+
+// To the right by a tenth of the chart a key, and down by a pixel with Control.
+TEST_F(Keyboard, AnArrowIsDrawnByTheArrowsAndEnter) {
+    choose_menu(form().MnuFleche);
+    open(form());
+    tab_to(form().Picture_KUNDALI);
+    for (int i = 0; i < 2; ++i) press(Qt::Key_Left);
+    press(Qt::Key_Return);
+    for (int i = 0; i < 4; ++i) press(Qt::Key_Right);
+    press(Qt::Key_Down, Qt::ControlModifier);
+    auto const& chart = form().Picture_KUNDALI;
+    EXPECT_FALSE(chart.lines(screen::Layer::rubber).empty()) << "seen on its way";
+    EXPECT_TRUE(chart.lines(screen::Layer::persistent).empty());
+    press(Qt::Key_Return);
+    auto const& drawn = chart.lines(screen::Layer::persistent);
+    ASSERT_EQ(drawn.size(), 4U) << "a shaft, its dot and the two sides of the head";
+    double const tenth = chart.Width / 10.0;
+    EXPECT_NEAR(drawn[0].x1, chart.Width / 2.0 - 2 * tenth, 15);
+    EXPECT_NEAR(drawn[0].x2, chart.Width / 2.0 + 2 * tenth, 15);
+    EXPECT_NEAR(drawn[0].y2 - drawn[0].y1, 15, 1);
 }
 
 TEST_F(Keyboard, AColourOfTheArrowsIsChosen) {
@@ -270,18 +312,28 @@ TEST_F(Keyboard, TheDaysOfTheCalendarAreWalkedByTheArrows) {
 }
 
 TEST_F(Keyboard, APictureCopiedElsewhereBecomesThePortrait) {
-    std::string const gif =
-        "GIF89a\x01\x01\x80\x01\xff\xff\xff!\xf9\x04\x01\n\x01,\x01\x01\x02\x02L\x01;";
     TemporaryFolder elsewhere;
-    auto const file = elsewhere.path() / "texte.txt";
-    write_file(file, gif, "texte.txt");
-    auto* const copied = new QMimeData;
-    copied->setUrls({QUrl::fromLocalFile(QString::fromStdString(file.string()))});
-    QApplication::clipboard()->setMimeData(copied);
+    auto const file = elsewhere.path() / "Marie.jpg";
+    QImage portrait{60, 80, QImage::Format_RGB32};
+    portrait.fill(Qt::blue);
+    ASSERT_TRUE(portrait.save(QString::fromStdString(file.string())));
+    copy_file(file);
     widget(form().Picture_PHOTO).setFocus(Qt::TabFocusReason);
     press(Qt::Key_V, Qt::ControlModifier);
-    // It is no picture, and that is told.
+    EXPECT_EQ(form().Picture_PHOTO.Picture.get().name(), "file:Marie.jpg");
+    EXPECT_TRUE(FileExists(session().program().path_of("RESSOURCES/IMAGE/Marie.jpg")));
+}
+
+TEST_F(Keyboard, ATextCopiedElsewhereIsNoPortrait) {
+    TemporaryFolder elsewhere;
+    auto const file = elsewhere.path() / "texte.txt";
+    write_file(file, "Un texte.", "texte.txt");
+    copy_file(file);
+    std::string const before = form().Picture_PHOTO.Picture.get().name();
+    widget(form().Picture_PHOTO).setFocus(Qt::TabFocusReason);
+    press(Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(form().Label_message.Caption.get(), "Ce fichier n'est pas une image !");
+    EXPECT_EQ(form().Picture_PHOTO.Picture.get().name(), before);
 }
 
 TEST_F(Keyboard, AnAccentCopiedAsACharacterOfItsOwnJoinsItsLetter) {

@@ -1,5 +1,8 @@
 // What a screen reader can do to the controls that draw themselves.
+#include <QAbstractItemView>
 #include <QAccessible>
+#include <QComboBox>
+#include <QScrollBar>
 
 #include "tests/desktop/window_fixture.h"
 
@@ -46,6 +49,18 @@ TEST_F(ScreenReader, MeetsAPictureToBePressedAsAButton) {
     EXPECT_EQ(told(session().program().choix_age.Image2).role(), QAccessible::Button);
     push(session().program().choix_age.Image2);
     EXPECT_EQ(session().program().choix_age.Label2(12).Caption.get(), "112");
+}
+
+TEST_F(ScreenReader, HearsTheNameOfADateFieldInEachPartOfIt) {
+    auto& box = dynamic_cast<QComboBox&>(widget(form().Combo_moisNaiss));
+    QString const name = told(form().Combo_moisNaiss).text(QAccessible::Name);
+    EXPECT_EQ(name, "Mois de naissance");
+    EXPECT_EQ(box.lineEdit()->accessibleName(), name);
+    EXPECT_EQ(box.view()->accessibleName(), name);
+    for (auto const* bar :
+         {box.view()->verticalScrollBar(), box.view()->horizontalScrollBar()}) {
+        EXPECT_EQ(bar->accessibleName(), name + ", défilement");
+    }
 }
 
 TEST_F(ScreenReader, PressesNothingOnWhatIsOnlyRead) {

@@ -3,13 +3,21 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDesktopServices>
+#include <QFile>
 #include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QListView>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QTextBrowser>
+#include <QTextCursor>
 #include <QTimer>
+#include <QUrl>
 
 #include "desktop/label_widget.h"
+#include "files/durable_file.h"
 #include "tests/desktop/window_fixture.h"
 
 namespace navarun::test {
@@ -59,6 +67,32 @@ TEST_F(Window, ANamePastedWithItsLineEndIsTheName) {
     EXPECT_EQ(form().Text_nom.Text.get(), "Dupont de Nemours");
     EXPECT_EQ(static_cast<QLineEdit&>(widget(form().Text_nom)).text(),
               QStringLiteral("Dupont de Nemours"));
+}
+
+// Where marking a text is copying it, the middle button pastes it.
+TEST_F(Window, AnotherButtonThanTheLeftOneDoesNothingInADateField) {
+    auto& box = dynamic_cast<QComboBox&>(widget(form().Combo_moisNaiss));
+    auto& line = *box.lineEdit();
+    click(form().Combo_moisNaiss);
+    ASSERT_EQ(line.selectedText(), "01");
+    auto& copied = *QApplication::clipboard();
+    for (auto const button : {Qt::MiddleButton, Qt::RightButton}) {
+        for (auto const type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                                QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+            if (copied.supportsSelection()) {
+                copied.setText(QStringLiteral("07"), QClipboard::Selection);
+            }
+            QPointF const end{line.width() - 2.0, line.height() / 2.0};
+            bool const held = type != QEvent::MouseButtonRelease;
+            QMouseEvent event{
+                type,          end, line.mapToGlobal(end), button, held ? button : Qt::NoButton,
+                Qt::NoModifier};
+            QApplication::sendEvent(&line, &event);
+            EXPECT_EQ(line.text(), "01") << button << ' ' << type;
+            EXPECT_EQ(line.selectedText(), "01") << button << ' ' << type;
+        }
+    }
+    EXPECT_EQ(form().Combo_moisNaiss.Text.get(), "01");
 }
 
 TEST_F(Window, DigitsOfAnInputMethodPassTheSameFilter) {
@@ -181,6 +215,43 @@ TEST_F(Window, ANoteKeepsItsLines) {
     EXPECT_EQ(form().Text_Note.Text.get(), "un\r\ndeux");
 }
 
+// A letter that no record holds becomes its nearest, and the next one stands behind it.
+TEST_F(Window, ALetterReplacedInTheNoteLeavesTheCaretBehindIt) {
+    auto& note = dynamic_cast<QPlainTextEdit&>(widget(form().Text_Note));
+    note.setFocus(Qt::TabFocusReason);
+    type("un");
+    press(Qt::Key_Return);
+    type("ab");
+    press(Qt::Key_Left);
+    type("łz");
+    EXPECT_EQ(form().Text_Note.Text.get(), "un\r\nalzb");
+    EXPECT_EQ(note.toPlainText(), "un\nalzb");
+    EXPECT_EQ(note.textCursor().position(), 6);
+}
+
+TEST_F(Window, AnAccentPastedAsACharacterOfItsOwnLeavesTheCaretBehindItsLetter) {
+    auto& note = dynamic_cast<QPlainTextEdit&>(widget(form().Text_Note));
+    note.setFocus(Qt::TabFocusReason);
+    type("ab");
+    press(Qt::Key_Left);
+    QApplication::clipboard()->setText(QStringLiteral("Rene\u0301e"));
+    press(Qt::Key_V, Qt::ControlModifier);
+    type("!");
+    EXPECT_EQ(form().Text_Note.Text.get(), "aRenée!b");
+}
+
+// French writes them before its colons and inside its numbers.
+TEST_F(Window, ANoteKeepsItsBlanksThatDoNotBreak) {
+    auto& note = dynamic_cast<QPlainTextEdit&>(widget(form().Text_Note));
+    std::string const sum = "Prix\u00A0: 10\u00A0000\u00A0F";
+    session().act([&](screen::User&) { form().Text_Note.Text = sum; });
+    note.setFocus(Qt::TabFocusReason);
+    note.moveCursor(QTextCursor::End);
+    type("r");
+    EXPECT_EQ(form().Text_Note.Text.get(), sum + "r");
+    EXPECT_EQ(note.textCursor().position(), 16);
+}
+
 TEST_F(Window, AMenuAndASwitchOfWindowsDoNotLeaveAHalfTypedField) {
     click(form().Combo_moisNaiss);
     type("1");
@@ -273,6 +344,75 @@ TEST_F(Window, LeavingDuringATransientMessageAbandonsIt) {
     click(form().Command_DateNow);
     EXPECT_TRUE(shown);
     EXPECT_EQ(session().exit_status(), 0);
+    EXPECT_EQ(ends, 1);
+}
+
+// Who started the program learns that it failed, whatever was waiting when it did.
+TEST_F(Window, AFatalErrorDuringATransientMessageEndsTheRunAsAFailure) {
+    std::string const name = "Portrait.jpg";
+    write_file(session().program().path_of("RESSOURCES/IMAGE/" + name), "no picture", name);
+    click(form().Bouton_Image);
+    bool shown = false;
+    QTimer::singleShot(200, &window(), [&] {
+        shown = widget(form().frame_messageSauve).isVisible();
+        answer_next_box("OK");
+        session().act([&](screen::User& user) {
+            user.choose(form().File_Fichier, name);
+            user.double_click(form().File_Fichier);
+        });
+    });
+    // Nothing has been chosen: a message tells so for a while.
+    click(form().Command_reset);
+    EXPECT_TRUE(shown);
+    EXPECT_TRUE(last_box_text.contains(QString::fromStdString(name)));
+    EXPECT_EQ(session().exit_status(), 1);
+    EXPECT_EQ(ends, 1);
+}
+
+TEST_F(Window, AClickOnARowIsToldOnce) {
+    click(form().Bouton_Internet);
+    auto& view = dynamic_cast<QListView&>(widget(form().List_Internet));
+    int told = 0;
+    form().List_Internet.on_click = [&] { ++told; };
+    auto const click_on = [&](int row) {
+        auto const place = view.visualRect(view.model()->index(row, 0)).center();
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    };
+    click_on(2);
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(form().List_Internet.ListIndex, 2);
+    click_on(2);
+    EXPECT_EQ(told, 2) << "the chosen row answers too";
+    view.setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Down);
+    EXPECT_EQ(told, 3);
+    click_on(3);
+    EXPECT_EQ(told, 4) << "chosen by a key before";
+    QTest::mousePress(view.viewport(), Qt::LeftButton, Qt::NoModifier,
+                      view.visualRect(view.model()->index(1, 0)).center());
+    EXPECT_EQ(told, 5) << "told by the press already";
+    EXPECT_EQ(form().List_Internet.ListIndex, 1);
+}
+
+// Whoever sees nothing happen starts the program once more; it says so and goes, and what the
+// first one has handed to a reader of texts stays.
+TEST_F(Window, ASecondStartLeavesTheTextsOfTheFirst) {
+    QTextBrowser reader;
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), &reader, "setSource");
+    auto const folder = session().program().application_folder;
+    auto const text = folder / "Marie Dupont.txt";
+    write_file(text, "MARIE DUPONT\r\n", "Marie Dupont.txt");
+    session().view_text(text, "Marie Dupont");
+    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+    QString const copy = reader.source().toLocalFile();
+    ASSERT_TRUE(copy.endsWith(QStringLiteral("/1/Marie Dupont.txt"))) << copy.toStdString();
+    {
+        desktop::Session second{folder, [] {}};
+        answer_next_box("OK");
+        second.start();
+        EXPECT_EQ(second.exit_status(), 0);
+    }
+    EXPECT_TRUE(QFile::exists(copy));
 }
 
 }  // namespace

@@ -13,7 +13,7 @@
 
 namespace navarun::test {
 
-Window::Window() : m_session{m_folder.path(), [] {}} {
+Window::Window() : m_session{m_folder.path(), [this] { ++ends; }} {
     m_session.start();
     window().activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window()));

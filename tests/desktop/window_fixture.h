@@ -33,6 +33,7 @@ class Window : public testing::Test {
     QString last_box_title;
     QString last_box_text;
     QStringList last_box_buttons;
+    int ends = 0;  // how often the session has told that the run is over
 
   private:
     TemporaryFolder m_folder;
