@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 #include "benchmarks/ratios.h"
+#include "benchmarks/scratch_folder.h"
 #include "tools/pilote/pilot.h"
 
 namespace navarun {
@@ -26,20 +27,14 @@ class Practice {
     explicit Practice(int records) {
         std::filesystem::create_directories(data(1));
         for (int i = 0; i < records; ++i) std::ofstream{data(1) / name_of(i)} << record;
-        program = std::make_unique<Program>(platform, folder);
+        program = std::make_unique<Program>(platform, folder.path());
         platform.set_user(program->user);
         platform.set_clock(*date_of(21, 11, 2026), 36900);
         program->start();
     }
-    ~Practice() {
-        std::error_code ignored;
-        std::filesystem::remove_all(folder, ignored);
-    }
-    Practice(Practice const&) = delete;
-    Practice& operator=(Practice const&) = delete;
 
     std::filesystem::path data(int number) const {
-        return folder / "RESSOURCES" / ("DATA" + std::to_string(number));
+        return folder.path() / "RESSOURCES" / ("DATA" + std::to_string(number));
     }
     // Names of years of consultations, of which the order of creation is not the alphabet's.
     static std::string name_of(int i) {
@@ -76,8 +71,7 @@ class Practice {
     static constexpr std::string_view record =
         "\"Zo\xE9\",\"Dupont\",\"17\",\"05\",\"19\",\"62\",0,\"\",\"une note\"\r\n";
 
-    std::filesystem::path const folder =
-        std::filesystem::temp_directory_path() / ("navarun-bench-" + std::to_string(getpid()));
+    ScratchFolder folder;
     pilot::ScriptedPlatform platform;
     std::unique_ptr<Program> program;
 };

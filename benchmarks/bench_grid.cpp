@@ -3,7 +3,6 @@
 // so.
 #include <array>
 #include <cstdlib>
-#include <filesystem>
 #include <iostream>
 #include <map>
 #include <string>
@@ -13,6 +12,7 @@
 
 #include "benchmarks/ratios.h"
 #include "benchmarks/ready_fields.h"
+#include "benchmarks/scratch_folder.h"
 #include "shell/names.h"
 #include "tools/pilote/pilot.h"
 
@@ -23,22 +23,9 @@ namespace {
 // Two persons whose grids differ in every text, taken in turn so that no write finds its text.
 constexpr std::array<std::string_view, 2> persons{"17051962", "04111987"};
 
-// A folder for the program's files, gone with the benchmark.
-class Folder {
-  public:
-    Folder() { std::filesystem::create_directories(path); }
-    ~Folder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path, ignored);
-    }
-    Folder(Folder const&) = delete;
-    Folder& operator=(Folder const&) = delete;
-    std::filesystem::path const path = std::filesystem::temp_directory_path() / "navarun-bench";
-};
-
 class Desk {
   public:
-    Desk() : program{platform, folder.path} {
+    Desk() : program{platform, folder.path()} {
         platform.set_clock(*date_of(21, 11, 2026), 36900);
         program.start();
     }
@@ -60,7 +47,7 @@ class Desk {
     /// From now on the age bar may be written without a step of the age following.
     void deafen_the_age_bar() { program.form1.HScroll_age.on_change = nullptr; }
 
-    Folder folder;
+    ScratchFolder folder;
     pilot::ScriptedPlatform platform;
     Program program;
 };
@@ -223,9 +210,9 @@ void floor_of_a_walk(benchmark::State& state) {
 BENCHMARK(floor_of_a_walk)->Unit(benchmark::kMillisecond);
 
 void start_to_finished_grid(benchmark::State& state) {
-    Folder const folder;
+    ScratchFolder const folder;
     for (auto _ : state) {
-        pilot::Pilot pilot{folder.path};
+        pilot::Pilot pilot{folder.path()};
         benchmark::DoNotOptimize(
             pilot.answer_line(R"({"op":"clock","date":"21/11/2026","time":"10:15:00"})"));
         benchmark::DoNotOptimize(pilot.answer_line(R"({"op":"load"})"));
@@ -235,12 +222,12 @@ BENCHMARK(start_to_finished_grid)->Unit(benchmark::kMicrosecond);
 
 // The window's controls, and the settings written once: what a start cannot go below.
 void floor_of_a_start(benchmark::State& state) {
-    Folder const folder;
+    ScratchFolder const folder;
     for (auto _ : state) {
         screen::Screen screen;
         Form1 form{screen};
         benchmark::DoNotOptimize(form.controls().size());
-        write_file(folder.path / "CONFIG.CFG", "0,0\r\n", "CONFIG.CFG");
+        write_file(folder.path() / "CONFIG.CFG", "0,0\r\n", "CONFIG.CFG");
     }
 }
 BENCHMARK(floor_of_a_start)->Unit(benchmark::kMicrosecond);

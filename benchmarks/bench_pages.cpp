@@ -1,14 +1,13 @@
 // How long the page takes: to be composed, drawn in the preview, made a document. Beside each
 // the floor of the same run: writing the same texts and strokes into a vector, filling the same
 // pixels, drawing the same texts with nothing looked up.
-#include <filesystem>
 #include <memory>
 #include <string>
 
 #include <benchmark/benchmark.h>
-#include <unistd.h>
 
 #include "benchmarks/ratios.h"
+#include "benchmarks/scratch_folder.h"
 #include "print/report.h"
 #include "tools/pilote/pilot.h"
 
@@ -30,8 +29,7 @@ namespace {
 class Practice {
   public:
     Practice() {
-        std::filesystem::create_directories(folder);
-        program = std::make_unique<Program>(platform, folder);
+        program = std::make_unique<Program>(platform, folder.path());
         platform.set_user(program->user);
         platform.set_clock(*date_of(21, 11, 2026), 36900);
         program->start();
@@ -46,17 +44,10 @@ class Practice {
         });
         platform.take_pages();
     }
-    ~Practice() {
-        std::error_code ignored;
-        std::filesystem::remove_all(folder, ignored);
-    }
-    Practice(Practice const&) = delete;
-    Practice& operator=(Practice const&) = delete;
 
     screen::Page page(double ratio) { return *PrintRoutine(*program, ratio); }
 
-    std::filesystem::path const folder =
-        std::filesystem::temp_directory_path() / ("navarun-bench-" + std::to_string(getpid()));
+    ScratchFolder folder;
     pilot::ScriptedPlatform platform;
     std::unique_ptr<Program> program;
 };

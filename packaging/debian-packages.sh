@@ -1,5 +1,5 @@
 # The Debian packages that the house needs, and how to install those that are missing.
-# Sourced by ./run, ./test, ./bench and packaging/package.
+# Sourced by every script that builds or tries the program.
 
 build_packages=(
     g++ cmake ninja-build ccache

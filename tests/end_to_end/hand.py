@@ -80,14 +80,14 @@ class Hand:
             self._xdo("mousemove", x, y)
         self._xdo("mouseup", 1)
 
-    def drag_across(self, start, end):
-        """From one place of the screen to another, across windows."""
+    def drag_across(self, start, end, rest):
+        """From one place of the screen to another, across windows; so many seconds are rested there
+        before it is let go."""
         self._xdo("mousemove", *start, "mousedown", 1)
         for step in range(1, STEPS + 1):
             self._xdo("mousemove", *(a + (b - a) * step // STEPS for a, b in zip(start, end)))
             time.sleep(0.02)  # the programs talk to each other about what is dragged
-        # Let go only where the drop is taken: the other program has to answer first.
-        time.sleep(0.3)
+        time.sleep(rest)
         self._xdo("mouseup", 1)
 
     def _thumb(self, name, start, end, steps=STEPS):

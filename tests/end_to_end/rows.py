@@ -1,10 +1,13 @@
 """Rows that a day is made of: each says what the hand does and what the same is for the pilot."""
 
+import contextlib
 import time
 
 from day import Row
 from desk import wait_for
 from model import TWIPS
+
+STAYS = 10  # seconds after which a bar that has not moved is taken to stay
 
 
 def ask(operation, control, **more):
@@ -43,11 +46,15 @@ def answered(row, value):
 
 
 def moved(operation, name):
-    """Asks for what the window's bar stands at. That is read once it stands still: what the hand
-    does and what is asked reach the program by two ways, and a question may come first."""
+    """Asks for what the window's bar stands at. That is read once it has left its place and stands
+    still: what the hand does and what is asked reach the program by two ways, and a question may
+    come first. A bar at its end may stay where it was."""
 
     def requests(day):
         bar = day.hand.node(name).get_value_iface()
+        left = day.pilot.value(name + ".Value")
+        with contextlib.suppress(AssertionError):
+            wait_for(lambda: bar.get_current_value() != left, f"{name} moved", STAYS)
         before, now = None, bar.get_current_value()
         while now != before:
             time.sleep(0.1)

@@ -4,6 +4,7 @@
 usage: test_records.py NAVARUN PILOTE PICTURES DRAG_SOURCE.
 """
 
+import contextlib
 import os
 import sys
 
@@ -14,7 +15,10 @@ from PIL import Image
 from acts import *
 from day import Row, play_day
 from desk import wait_for
+from eye import region, share_of
 from rows import *
+
+GREEN = (40, 160, 60)
 
 
 def fill(folder):
@@ -31,17 +35,25 @@ def fill(folder):
 def drop_from_outside(day):
     """A picture dragged from another program's window onto the portrait."""
     file = os.path.join(day.desk.folder, "vert.bmp")
-    Image.new("RGB", (130, 180), (40, 160, 60)).save(file)
+    Image.new("RGB", (130, 180), GREEN).save(file)
     source = day.desk.start_other([sys.argv[4], file])
     number = wait_for(lambda: day.desk.windows("Fichiers"), "the window of the files")[0]
     day.desk.run(["xdotool", "windowmove", "--sync", number, "40", "700"])
     day.beside.append((0, 650, 260, 200))
 
-    def drag():
-        day.hand.drag_across((80, 730), day.hand.centre("Picture_PHOTO"))
-        return True
+    def is_there():
+        return share_of(region(day.eye.look(), day.hand.rectangle("Picture_PHOTO")), GREEN) > 0.5
 
-    yield Row("drops a picture from another window", [("wait", drag, "the drag")],
+    def drop():
+        # What is let go before the window has answered that it takes it is not dropped, and nothing
+        # tells when it has: whoever sees nothing come of it tries again, less in a hurry.
+        for rest in (0.3, 1, 3, 10):
+            day.hand.drag_across((80, 730), day.hand.centre("Picture_PHOTO"), rest)
+            with contextlib.suppress(AssertionError):
+                return wait_for(is_there, "the portrait", 15)
+        raise AssertionError("the window does not take what is dropped")
+
+    yield Row("drops a picture from another window", [("wait", drop, "the drop")],
               [ask("drop", "Picture_PHOTO", file=file)])
     day.desk.end(source)
     day.beside.clear()

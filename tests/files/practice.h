@@ -2,15 +2,13 @@
 // saving, browsing and loading in a word.
 #pragma once
 
-#include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "tests/support/files.h"
 #include "tests/support/visit.h"
 
 namespace navarun::test {
@@ -18,25 +16,6 @@ namespace navarun::test {
 inline constexpr int key_enter = 13;
 inline constexpr int key_control = 17;
 inline constexpr int key_delete = 46;
-
-inline std::string file_content(std::filesystem::path const& path) {
-    std::ifstream file{path, std::ios::binary};
-    return {std::istreambuf_iterator<char>{file}, {}};
-}
-
-inline void put_file(std::filesystem::path const& path, std::string_view bytes) {
-    std::filesystem::create_directories(path.parent_path());
-    std::ofstream{path, std::ios::binary} << bytes;
-}
-
-inline std::vector<std::string> names_in(std::filesystem::path const& folder) {
-    std::vector<std::string> names;
-    for (auto const& entry : std::filesystem::directory_iterator{folder}) {
-        names.push_back(entry.path().filename().string());
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
 
 /// A record's bytes for someone born on 17/05/1962, by names, portrait and note.
 inline std::string record_of(std::string_view first_name, std::string_view last_name,

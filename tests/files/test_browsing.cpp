@@ -110,7 +110,7 @@ TEST_F(Browsing, TheMauveSchemesGiveTheListTheirGround) {
     visit.click("MnuMauve_cycle");
     visit.click("Charge(1)");
     EXPECT_EQ(visit.text("File_Fichier.BackColor"), "#400040");
-    EXPECT_EQ(visit.text("File_Fichier.Tag"), visit.text("File_Fichier.Tag"));
+    EXPECT_EQ(visit.text("File_Fichier.Tag"), "#400040");
     visit.choose("File_Fichier", "Dupont Zoe.fcy");
     visit.double_click("File_Fichier");
     EXPECT_EQ(visit.text("Text_nom.Text"), "Dupont");

@@ -11,8 +11,8 @@
 #include <gtest/gtest.h>
 
 #include "tests/files/pictures.h"
-#include "tests/files/pilote_process.h"
 #include "tests/files/practice.h"
+#include "tests/support/pilot_process.h"
 
 namespace navarun::test {
 
@@ -71,10 +71,10 @@ class Desk {
     }
 
     Json const& answer() const { return m_answer; }
-    int wait() { return m_pilote.wait(); }
+    int end() { return m_pilote.end(); }
 
   private:
-    PiloteProcess m_pilote;
+    PilotProcess m_pilote;
     Json m_answer;
 };
 
@@ -190,7 +190,7 @@ class FaultSequences : public testing::TestWithParam<Act> {
     bool run(Act const& second, int number, Failure const& failure) {
         prepare();
         Environment environment{
-            {"LD_PRELOAD", FAULT_SHIM},
+            {"LD_PRELOAD", m_shim},
             {"ASAN_OPTIONS", "verify_asan_link_order=0"},
             {"FAULT_FOLDER", resources().string()},
             {"FAULT_MARK", at_root("frappe").string()},
@@ -219,7 +219,7 @@ class FaultSequences : public testing::TestWithParam<Act> {
                     << desk.answer();
                 EXPECT_NE(report_of(desk.answer()), "") << desk.answer();
             }
-            EXPECT_EQ(desk.wait(), ended ? 1 : 0);
+            EXPECT_EQ(desk.end(), ended ? 1 : 0);
             EXPECT_FALSE(ended && is_particular(failure)) << desk.answer();
             struck = std::filesystem::exists(at_root("frappe"));
             check(before, after(second), went_on);
@@ -239,7 +239,7 @@ class FaultSequences : public testing::TestWithParam<Act> {
             Desk desk{m_folder.path(), {}};
             EXPECT_TRUE(desk.start() && of(GetParam())(desk) && of(second)(desk))
                 << desk.answer();
-            desk.wait();
+            desk.end();
         }
         known = tree();
         std::filesystem::remove_all(resources());
@@ -286,7 +286,7 @@ class FaultSequences : public testing::TestWithParam<Act> {
             Desk desk{m_folder.path(), {}};
             bool const up = desk.start();
             bool const records_open = up && desk.open_records();
-            desk.wait();
+            desk.end();
             if (records_open) return;
             EXPECT_NE(report_of(desk.answer()).find("thème"), std::string::npos)
                 << desk.answer();
@@ -301,6 +301,7 @@ class FaultSequences : public testing::TestWithParam<Act> {
 
   private:
     TemporaryFolder m_folder;
+    std::string const m_shim = preloadable(FAULT_SHIM, m_folder);
     std::map<std::string, Tree> m_after;
 };
 

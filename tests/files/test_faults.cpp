@@ -7,8 +7,8 @@
 #include <gtest/gtest.h>
 
 #include "tests/files/pictures.h"
-#include "tests/files/pilote_process.h"
 #include "tests/files/practice.h"
+#include "tests/support/pilot_process.h"
 
 namespace navarun::test {
 
@@ -105,12 +105,12 @@ class Faults : public testing::TestWithParam<Scene> {
     bool run(Environment fault, std::string const& told) {
         SCOPED_TRACE(told);
         prepare();
-        fault.emplace_back("LD_PRELOAD", FAULT_SHIM);
+        fault.emplace_back("LD_PRELOAD", m_shim);
         // Where the program is built to be watched, the watcher does not mind coming second.
         fault.emplace_back("ASAN_OPTIONS", "verify_asan_link_order=0");
         fault.emplace_back("FAULT_FOLDER", (m_folder.path() / GetParam().below).string());
         fault.emplace_back("FAULT_MARK", mark().string());
-        PiloteProcess pilote{m_folder.path(), fault};
+        PilotProcess pilote{m_folder.path(), fault};
         Json answer = pilote.ask(set_clock);
         answer = pilote.ask(load);
         bool const started = answer.contains("ok");
@@ -121,7 +121,7 @@ class Faults : public testing::TestWithParam<Scene> {
             answer = pilote.ask(GetParam().requests[place]);
             if (!answer.contains("ok")) break;
         }
-        int const status = pilote.wait();
+        int const status = pilote.end();
         if (answer.is_object() && answer.contains("ok")) {
             EXPECT_EQ(status, 0);
             check_finished();
@@ -203,6 +203,7 @@ class Faults : public testing::TestWithParam<Scene> {
     std::filesystem::path mark() const { return m_folder.path() / "frappe"; }
 
     TemporaryFolder m_folder;
+    std::string const m_shim = preloadable(FAULT_SHIM, m_folder);
 };
 
 struct Failure {

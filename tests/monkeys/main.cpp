@@ -132,7 +132,11 @@ int main(int argc, char** argv) {
         return 2;
     }
     bool const own_folder = wanted->folder.empty();
-    if (own_folder) wanted->folder = navarun::test::folder_in_memory("navarun-monkeys");
+    if (own_folder) {
+        wanted->folder = navarun::test::folder_in_memory("navarun-monkeys");
+        // A killed run of the same number may have left it.
+        fs::remove_all(wanted->folder);
+    }
     fs::create_directories(wanted->folder);
     wanted->folder = fs::canonical(wanted->folder);
     if (wanted->prepare) {

@@ -11,7 +11,7 @@ import time
 import unittest
 from pathlib import Path
 
-from desk import Desk, wait_until
+from users_desk import UsersDesk, wait_for
 
 PACKAGES = Path(sys.argv.pop(1))
 [PACKAGE] = PACKAGES.glob("*.deb")
@@ -45,7 +45,7 @@ def take_turn():
             return True
         except OSError:
             return False
-    wait_until(taken, "another run of this test")
+    wait_for(taken, "another run of this test")
     return turn
 
 
@@ -83,10 +83,10 @@ class Installed(unittest.TestCase):
         dpkg("--install", str(PACKAGE))
 
     def test_is_started_used_quit_and_removed(self):
-        with Desk(unprivileged=True) as desk:
+        with UsersDesk(unprivileged=True) as desk:
             folder = desk.home / ".local/share/navarun"
 
-            desk.start(["gtk-launch", "fr.navarun.Navarun"])
+            desk.launch(["gtk-launch", "fr.navarun.Navarun"])
             window = desk.window("N.A.V.A.R.U.N")
             self.assertEqual(os.readlink(f"/proc/{desk.process_of(window)}/exe"),
                              "/usr/lib/navarun/navarun")
@@ -111,14 +111,14 @@ class Installed(unittest.TestCase):
     def keep_consultation(self, desk, window, records):
         """Types a name and a birth date and saves them by the diskette."""
         desk.type("Elodie")
-        desk.key("Tab")
+        desk.press("Tab")
         desk.type("Beranger")
-        desk.key("Tab")
+        desk.press("Tab")
         desk.type("17051962")
         desk.click(window, *DISKETTE)
         desk.answer_yes("SAUVEGARDER")
         record = records / "Beranger Elodie.fcy"
-        wait_until(record.exists, "the record of the consultation")
+        wait_for(record.exists, "the record of the consultation")
         self.assertEqual(record.read_bytes(), b'"Elodie","Beranger","17","05","19","62",0,"",""\r\n')
 
 

@@ -6,7 +6,7 @@ import sys
 import unittest
 from pathlib import Path
 
-from desk import Desk
+from users_desk import UsersDesk
 
 PACKAGES = Path(sys.argv.pop(1))
 VERSION = sys.argv.pop(1)
@@ -26,7 +26,7 @@ def files_of(folder):
 
 class PortableFolder(unittest.TestCase):
     def test_runs_from_anywhere_and_keeps_its_data_beside_it(self):
-        with Desk() as desk:
+        with UsersDesk() as desk:
             place = desk.home / "Clé à moi"
             program_folder = unpacked(place)
             self.assertEqual([path.name for path in place.iterdir()], [program_folder.name])
@@ -34,7 +34,7 @@ class PortableFolder(unittest.TestCase):
             self.assertEqual({name for name in delivered if not name.startswith("RESSOURCES/DOCS/")},
                              {"navarun"})
 
-            desk.start([program_folder / "navarun"])
+            desk.launch([program_folder / "navarun"])
             window = desk.window("N.A.V.A.R.U.N")
             desk.quit(window)
 

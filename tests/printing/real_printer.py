@@ -3,168 +3,33 @@
 
     real_printer.py PRINT_JOB [case ...]
 
-Starts a CUPS scheduler on a loopback port, everything of it in a temporary folder; its queues
-pass the program's document unchanged into a file. PRINT_JOB is the real program led through its
-own menu and the system's printer dialog. The scheduler is stopped whatever happens.
+PRINT_JOB is the real program led through its own menu and the system's printer dialog. The print
+system is stopped whatever happens.
 
-Ends with 77 where the print system or the readers of PDF files are not installed.
+Ends with 77 where nothing could be tried: the print system or the readers of PDF files are not
+installed, or none of the cases can be made here.
 """
-import ctypes
 import html
 import json
 import os
-import pwd
 import re
-import shutil
 import signal
-import socket
 import subprocess
 import sys
 import tempfile
 import time
 
+sys.path.append(os.path.join(os.path.dirname(os.path.abspath(__file__)), "../support"))
+from print_system import WAIT, PrintSystem, tool
+
 POINTS = 72
 MILLIMETRE = POINTS / 25.4
 A4 = (595, 842)
-WAIT = 30  # seconds after which a document that did not come never comes
+SKIPPED = 77  # as ctest is told
 
 
-def tool(name):
-    """Schedulers stand where ordinary users have no path."""
-    return shutil.which(name, path=os.environ.get("PATH", "") + ":/usr/sbin:/sbin")
-
-
-def end_with_the_test():
-    """In the scheduler's process: it ends with whoever started it, also where that is killed."""
-    set_signal_of_parents_death = 1
-    ctypes.CDLL(None).prctl(set_signal_of_parents_death, signal.SIGTERM)
-
-
-class PrintSystem:
-    """A scheduler with a queue "papier" (the default one) and a queue "dossier"."""
-
-    def __init__(self, folder):
-        self.folder = folder
-        with socket.socket() as probe:
-            probe.bind(("127.0.0.1", 0))
-            self.port = probe.getsockname()[1]
-        self.server = f"127.0.0.1:{self.port}"
-        self.process = None
-
-    def path(self, *names):
-        return os.path.join(self.folder, *names)
-
-    def output(self, queue):
-        return self.path("sortie", queue + ".pdf")
-
-    def make_device(self):
-        """A printer that keeps what it is sent, beside the system's own programs."""
-        installed = os.path.realpath("/usr/lib/cups")
-        for name in os.listdir(installed):
-            if name != "backend":
-                os.symlink(os.path.join(installed, name), self.path("lib", name))
-        os.makedirs(self.path("lib", "backend"))
-        device = self.path("lib", "backend", "essai")
-        with open(device, "w") as script:
-            script.write("""#!/bin/sh
-[ $# -eq 0 ] && { echo 'direct essai "Unknown" "Essai"'; exit 0; }
-paper=${DEVICE_URI#essai:}
-cat "${6:--}" >"$paper.part" && mv "$paper.part" "$paper"
-""")
-        os.chmod(device, 0o755)
-
-    def start(self):
-        for name in ("etc", "spool", "spool/tmp", "cache", "run", "lib", "sortie"):
-            os.makedirs(self.path(name), exist_ok=True)
-        self.make_device()
-        os.chmod(self.folder, 0o755)
-        with open(self.path("etc", "cupsd.conf"), "w") as conf:
-            conf.write(f"""
-Listen {self.server}
-Browsing Off
-LogLevel debug
-DefaultAuthType None
-WebInterface No
-<Location />
-  Order allow,deny
-  Allow all
-</Location>
-<Policy default>
-  <Limit All>
-    Order allow,deny
-    Allow all
-  </Limit>
-</Policy>
-""")
-        user = ""
-        if os.geteuid() == 0:
-            # Filters never run as root.
-            account = pwd.getpwnam("lp")
-            for name in ("spool", "spool/tmp", "cache", "run", "sortie"):
-                os.chown(self.path(name), 0, account.pw_gid)
-                os.chmod(self.path(name), 0o770)
-            user = "User lp\nGroup lp\nSystemGroup root\n"
-        with open(self.path("etc", "cups-files.conf"), "w") as conf:
-            conf.write(f"""
-{user}
-ServerRoot {self.path("etc")}
-ServerBin {self.path("lib")}
-RequestRoot {self.path("spool")}
-TempDir {self.path("spool", "tmp")}
-CacheDir {self.path("cache")}
-StateDir {self.path("run")}
-ErrorLog {self.path("error_log")}
-AccessLog {self.path("access_log")}
-PageLog {self.path("page_log")}
-""")
-        self.process = subprocess.Popen(
-            [tool("cupsd"), "-f", "-c", self.path("etc", "cupsd.conf"),
-             "-s", self.path("etc", "cups-files.conf")],
-            stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-            stderr=open(self.path("stderr"), "w"), preexec_fn=end_with_the_test)
-        deadline = time.monotonic() + WAIT
-        while True:
-            try:
-                socket.create_connection(("127.0.0.1", self.port), timeout=1).close()
-                break
-            except OSError:
-                if self.process.poll() is not None or time.monotonic() > deadline:
-                    raise AssertionError("the scheduler does not start: " +
-                                         open(self.path("stderr")).read())
-                time.sleep(0.05)
-        for queue in ("papier", "dossier"):
-            self.add(queue)
-        self.run("lpadmin", "-d", "papier")
-
-    def add(self, queue):
-        # Without a driver: the document reaches the device as the program made it.
-        self.run("lpadmin", "-p", queue, "-E", "-v", "essai:" + self.output(queue), "-m", "raw")
-
-    def command(self, name, *arguments):
-        words = [tool(name), *arguments]
-        return f"CUPS_SERVER={self.server} " + " ".join(words)
-
-    def run(self, name, *arguments):
-        subprocess.run([tool(name), *arguments], check=True, timeout=WAIT,
-                       env=dict(os.environ, CUPS_SERVER=self.server),
-                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-
-    def stop(self):
-        if self.process is None:
-            return
-        if self.process.poll() is None:
-            self.process.terminate()
-            try:
-                self.process.wait(10)
-            except subprocess.TimeoutExpired:
-                self.process.kill()
-                self.process.wait()
-        self.process = None
-
-    def jobs(self):
-        """How many documents the scheduler was handed."""
-        spool = self.path("spool")
-        return len([name for name in os.listdir(spool) if re.match(r"c\d+", name)])
+class NotRun(Exception):
+    """What a case needs cannot be had on this machine."""
 
 
 class Case:
@@ -439,8 +304,7 @@ def on_a_full_disk(case, order, left):
     if os.geteuid() != 0 or subprocess.run(
             ["mount", "-t", "tmpfs", "-o", "size=1m", "tmpfs", full],
             stderr=subprocess.DEVNULL).returncode != 0:
-        print("  not run: no small disk can be made here")
-        return
+        raise NotRun("no small disk can be made here")
     try:
         command = f"cat /dev/zero >{full}/rest 2>/dev/null; truncate -s -{left} {full}/rest"
         case.print("report", *[word.replace("PLEIN", full) for word in order],
@@ -482,8 +346,12 @@ def main(job, wanted):
                if tool(name) is None]
     if missing:
         print("not installed:", ", ".join(missing))
-        return 77
-    failed = []
+        return SKIPPED
+    unknown = set(wanted) - {function.__name__ for function in CASES}
+    if unknown:
+        print("no such case:", ", ".join(sorted(unknown)))
+        return 2
+    ends = []
     for function in CASES:
         name = function.__name__
         if wanted and name not in wanted:
@@ -493,13 +361,18 @@ def main(job, wanted):
             try:
                 system.start()
                 function(Case(job, system, folder))
-                print("ok    ", name)
+                end, reason = "ok", ""
+            except NotRun as why:
+                end, reason = "not run", f": {why}"
             except (AssertionError, subprocess.SubprocessError, OSError) as error:
-                print("FAILED", name, ":", error)
-                failed.append(name)
+                end, reason = "FAILED", f": {error}"
             finally:
                 system.stop()
-    return 1 if failed else 0
+        print(f"{end:8}{name}{reason}")
+        ends.append(end)
+    if "FAILED" in ends:
+        return 1
+    return 0 if "ok" in ends else SKIPPED
 
 
 if __name__ == "__main__":

@@ -7,6 +7,7 @@ import socket
 import time
 
 from desk import PATIENCE
+from preload import preloadable
 
 
 @dataclasses.dataclass
@@ -36,7 +37,7 @@ class Probe:
     """Reads a program that was started with the environment that `environment` gives."""
 
     def __init__(self, desk, library):
-        self._desk, self._library = desk, library
+        self._desk, self._library = desk, preloadable(library, desk.folder)
         self._socket = os.path.join(desk.folder, "heap")
 
     def environment(self, *preloaded):

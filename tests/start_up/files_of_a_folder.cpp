@@ -1,25 +1,9 @@
 // Reading and preparing folders.
 #include "tests/start_up/files_of_a_folder.h"
 
-#include <fstream>
-#include <iterator>
-
 #include <gtest/gtest.h>
 
 namespace navarun::test {
-
-std::string bytes_of(std::filesystem::path const& file) {
-    std::ifstream stream{file, std::ios::binary};
-    EXPECT_TRUE(stream) << file << " cannot be read";
-    return {std::istreambuf_iterator<char>{stream}, {}};
-}
-
-void put(std::filesystem::path const& file, std::string_view bytes) {
-    std::filesystem::create_directories(file.parent_path());
-    std::ofstream stream{file, std::ios::binary};
-    stream << bytes;
-    ASSERT_TRUE(stream.good()) << file;
-}
 
 std::map<std::string, std::string> tree_of(std::filesystem::path const& folder) {
     std::map<std::string, std::string> tree;
@@ -28,7 +12,7 @@ std::map<std::string, std::string> tree_of(std::filesystem::path const& folder) 
         if (entry.is_directory()) {
             tree[name + "/"];
         } else {
-            tree[name] = bytes_of(entry.path());
+            tree[name] = file_content(entry.path());
         }
     }
     return tree;

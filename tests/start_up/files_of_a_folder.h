@@ -6,13 +6,10 @@
 #include <string>
 #include <string_view>
 
+#include "tests/support/files.h"
 #include "tests/support/visit.h"
 
 namespace navarun::test {
-
-std::string bytes_of(std::filesystem::path const& file);
-/// Makes the folders that it needs.
-void put(std::filesystem::path const& file, std::string_view bytes);
 
 /// Each file with its bytes and each folder, by its path from `folder` on with "/"; a folder's
 /// path ends with "/" and its bytes are empty.

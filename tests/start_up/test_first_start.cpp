@@ -54,30 +54,30 @@ TEST(FirstStart, WorksInAFolderWithBlanksAndAccents) {
     std::filesystem::create_directories(own);
     Start const start{own};
     EXPECT_TRUE(start.is_up()) << start.answer();
-    EXPECT_EQ(bytes_of(own / settings_file), "0,0\r\n");
+    EXPECT_EQ(file_content(own / settings_file), "0,0\r\n");
 }
 
 TEST(FirstStart, ThePractitionersOwnAddressBookIsLeftAsItIs) {
     TemporaryFolder const folder;
-    put(folder.path() / address_file, "\"www.a.example\"\r\n");
+    put_file(folder.path() / address_file, "\"www.a.example\"\r\n");
     Start const start{folder.path()};
-    EXPECT_EQ(bytes_of(folder.path() / address_file), "\"www.a.example\"\r\n");
+    EXPECT_EQ(file_content(folder.path() / address_file), "\"www.a.example\"\r\n");
 }
 
 TEST(FirstStart, AnEmptyAddressBookIsAnAddressBook) {
     TemporaryFolder const folder;
-    put(folder.path() / address_file, "");
+    put_file(folder.path() / address_file, "");
     Start const start{folder.path()};
     EXPECT_TRUE(start.is_up());
-    EXPECT_EQ(bytes_of(folder.path() / address_file), "");
+    EXPECT_EQ(file_content(folder.path() / address_file), "");
 }
 
 TEST(FirstStart, RecordsAndPortraitsAreLeftAsTheyAre) {
     TemporaryFolder const folder;
     std::string const record = "\"A\",\"B\",\"01\",\"01\",\"19\",\"00\",0,\"\",\"\"\r\n";
-    put(folder.path() / "RESSOURCES/DATA1/B A.fcy", record);
-    put(folder.path() / "RESSOURCES/DATA2/B A.fcy", record);
-    put(folder.path() / "RESSOURCES/IMAGE/a.jpg", "no picture");
+    put_file(folder.path() / "RESSOURCES/DATA1/B A.fcy", record);
+    put_file(folder.path() / "RESSOURCES/DATA2/B A.fcy", record);
+    put_file(folder.path() / "RESSOURCES/IMAGE/a.jpg", "no picture");
     auto const before = tree_of(folder.path());
     Start const start{folder.path()};
     auto const after = tree_of(folder.path());
@@ -121,7 +121,7 @@ TEST(FirstStart, WhatAKilledRunWasWritingIsRemoved) {
     TemporaryFolder const folder;
     for (auto const* place :
          {"RESSOURCES", "RESSOURCES/DATA1", "RESSOURCES/DATA2", "RESSOURCES/IMAGE"}) {
-        put(folder.path() / place / "navarun.tmp", "half a rec");
+        put_file(folder.path() / place / "navarun.tmp", "half a rec");
     }
     Start const start{folder.path()};
     EXPECT_TRUE(start.is_up());
@@ -132,7 +132,7 @@ TEST(FirstStart, WhatAKilledRunWasWritingIsRemoved) {
 
 TEST(FileTests, AFolderIsNoFileAndAMissingFolderIsNone) {
     TemporaryFolder const folder;
-    put(folder.path() / "a.txt", "a");
+    put_file(folder.path() / "a.txt", "a");
     EXPECT_FALSE(FileExists(folder.path()));
     EXPECT_TRUE(FileExists(folder.path() / "a.txt"));
     EXPECT_FALSE(FileExists(folder.path() / "b.txt"));

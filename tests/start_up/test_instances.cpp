@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/start_up/files_of_a_folder.h"
-#include "tests/start_up/pilot_process.h"
+#include "tests/support/pilot_process.h"
 
 namespace navarun::test {
 
@@ -27,8 +27,8 @@ TEST(SecondInstance, IsRefusedWithABoxAndEnds) {
 TEST(SecondInstance, TouchesNoFile) {
     TemporaryFolder const folder;
     Start first{folder.path()};
-    put(folder.path() / settings_file, "3\r\n");
-    put(folder.path() / "RESSOURCES/DATA1/navarun.tmp", "the first one is writing");
+    put_file(folder.path() / settings_file, "3\r\n");
+    put_file(folder.path() / "RESSOURCES/DATA1/navarun.tmp", "the first one is writing");
     std::filesystem::remove(folder.path() / address_file);
     auto const before = tree_of(folder.path());
     Start const second{folder.path()};
@@ -41,7 +41,7 @@ TEST(SecondInstance, LeavesTheFirstAtWork) {
     Start first{folder.path()};
     Start const second{folder.path()};
     EXPECT_TRUE(first.click("MnuMauve_Aum").contains("ok"));
-    EXPECT_EQ(bytes_of(folder.path() / settings_file), "3,0\r\n");
+    EXPECT_EQ(file_content(folder.path() / settings_file), "3,0\r\n");
 }
 
 TEST(SecondInstance, IsLetInOnceTheFirstIsGone) {
@@ -87,7 +87,7 @@ TEST(Processes, AKilledOneKeepsNobodyOut) {
     ASSERT_TRUE(first.load().contains("ok"));
     ASSERT_TRUE(first.ask({{"op", "click"}, {"control", "MnuMauve_cycle"}}).contains("ok"));
     first.kill();
-    EXPECT_EQ(bytes_of(folder.path() / settings_file), "2,0\r\n");
+    EXPECT_EQ(file_content(folder.path() / settings_file), "2,0\r\n");
     PilotProcess second{folder.path()};
     EXPECT_TRUE(second.load().contains("ok"));
     EXPECT_EQ(second.end(), 0);
@@ -103,7 +103,7 @@ TEST(Processes, ManyKilledInTheirStartLeaveAFolderThatStarts) {
     }
     PilotProcess last{folder.path()};
     EXPECT_TRUE(last.load().contains("ok"));
-    EXPECT_EQ(bytes_of(folder.path() / settings_file), "0,0\r\n");
+    EXPECT_EQ(file_content(folder.path() / settings_file), "0,0\r\n");
 }
 
 TEST(Processes, OneWhoseInputEndsEndsWithNoError) {

@@ -3,7 +3,7 @@
 #include <sys/stat.h>
 
 #include "tests/start_up/files_of_a_folder.h"
-#include "tests/start_up/pilot_process.h"
+#include "tests/support/pilot_process.h"
 
 namespace navarun::test {
 
@@ -36,18 +36,18 @@ BadSettings const bad_settings[] = {
 class RefusedSettings : public testing::TestWithParam<BadSettings> {};
 TEST_P(RefusedSettings, EndTheStartWithAReportAndAreLeftAsTheyAre) {
     TemporaryFolder const folder;
-    put(folder.path() / settings_file, GetParam().bytes);
+    put_file(folder.path() / settings_file, GetParam().bytes);
     Start failed{folder.path()};
     expect_fatal_report(failed.answer(), {"La lecture du fichier", "CONFIG.CFG"});
     EXPECT_EQ(failed.pilot().exit_status(), 1);
-    EXPECT_EQ(bytes_of(folder.path() / settings_file), GetParam().bytes);
+    EXPECT_EQ(file_content(folder.path() / settings_file), GetParam().bytes);
 }
 INSTANTIATE_TEST_SUITE_P(Files, RefusedSettings, testing::ValuesIn(bad_settings),
                          [](auto const& row) { return row.param.name; });
 
 TEST(RefusedStart, ALongFileOfRubbishIsReportedAtOnce) {
     TemporaryFolder const folder;
-    put(folder.path() / settings_file, std::string(10'000'000, 'x'));
+    put_file(folder.path() / settings_file, std::string(10'000'000, 'x'));
     Start failed{folder.path()};
     EXPECT_EQ(failed.pilot().exit_status(), 1);
 }
@@ -83,17 +83,17 @@ TEST(RefusedStart, AFolderInThePlaceOfTheAddressBook) {
 
 TEST(RefusedStart, AFileInThePlaceOfTheResources) {
     TemporaryFolder const folder;
-    put(folder.path() / "RESSOURCES", "a file");
+    put_file(folder.path() / "RESSOURCES", "a file");
     Start failed{folder.path()};
     expect_fatal_report(failed.answer(), {"CONFIG.CFG", "L'écriture",
                                           "Un fichier se trouve à la place d'un dossier."});
-    EXPECT_EQ(bytes_of(folder.path() / "RESSOURCES"), "a file");
+    EXPECT_EQ(file_content(folder.path() / "RESSOURCES"), "a file");
 }
 
 // What became of a folder shows only when a file is wanted in it.
 TEST(RefusedStart, AFileInThePlaceOfARecordFolderIsNoticedByTheFirstRecord) {
     TemporaryFolder const folder;
-    put(folder.path() / "RESSOURCES/DATA1", "a file");
+    put_file(folder.path() / "RESSOURCES/DATA1", "a file");
     Start start{folder.path()};
     ASSERT_TRUE(start.is_up()) << start.answer();
     expect_fatal_report(start.click("Command_Disk_Vert"), {"L'écriture"});
@@ -102,7 +102,7 @@ TEST(RefusedStart, AFileInThePlaceOfARecordFolderIsNoticedByTheFirstRecord) {
 
 TEST(RefusedStart, NothingIsRescuedBeforeTheProgramIsUp) {
     TemporaryFolder const folder;
-    put(folder.path() / settings_file, "9,9\r\n");
+    put_file(folder.path() / settings_file, "9,9\r\n");
     Start failed{folder.path()};
     expect_fatal_report(failed.answer(), {});
     EXPECT_TRUE(std::filesystem::is_empty(folder.path() / "RESSOURCES/DATA1"));
@@ -111,9 +111,9 @@ TEST(RefusedStart, NothingIsRescuedBeforeTheProgramIsUp) {
 
 TEST(RefusedStart, AfterItTheFolderIsFree) {
     TemporaryFolder const folder;
-    put(folder.path() / settings_file, "azur\r\n");
+    put_file(folder.path() / settings_file, "azur\r\n");
     { Start const failed{folder.path()}; }
-    put(folder.path() / settings_file, "1\r\n");
+    put_file(folder.path() / settings_file, "1\r\n");
     Start good{folder.path()};
     EXPECT_TRUE(good.is_up()) << good.answer();
 }
@@ -144,7 +144,7 @@ class Rights : public testing::Test {
     }
 
     void expect_refused(std::vector<std::string> const& told) {
-        PilotProcess process{folder.path(), RunBy::user_without_rights};
+        PilotProcess process{folder.path(), {}, RunBy::user_without_rights};
         Json const answer = process.load();
         expect_fatal_report(answer, told);
         EXPECT_EQ(process.end(), 1);
@@ -156,7 +156,7 @@ class Rights : public testing::Test {
 };
 
 TEST_F(Rights, OfAnOrdinaryUserAreEnoughForAnOrdinaryFolder) {
-    PilotProcess process{folder.path(), RunBy::user_without_rights};
+    PilotProcess process{folder.path(), {}, RunBy::user_without_rights};
     EXPECT_TRUE(process.load().contains("ok"));
     EXPECT_EQ(process.end(), 0);
 }
@@ -169,7 +169,7 @@ TEST_F(Rights, ToReadTheSettingsAreMissing) {
 TEST_F(Rights, ToWriteTheResourcesAreMissing) {
     set_rights(resources(), 0555);
     expect_refused({"L'écriture", "CONFIG.CFG", "L'accès est refusé."});
-    EXPECT_EQ(bytes_of(folder.path() / settings_file), "0,0\r\n");
+    EXPECT_EQ(file_content(folder.path() / settings_file), "0,0\r\n");
 }
 
 TEST_F(Rights, ToMakeTheResourcesAreMissing) {
@@ -187,7 +187,7 @@ TEST_F(Rights, ToEnterTheResourcesAreMissing) {
 // An address book that is there is not touched at the start: only who opens it needs the right.
 TEST_F(Rights, ToReadTheAddressBookAreNotNeededBeforeItIsOpened) {
     set_rights(folder.path() / address_file, 0);
-    PilotProcess process{folder.path(), RunBy::user_without_rights};
+    PilotProcess process{folder.path(), {}, RunBy::user_without_rights};
     ASSERT_TRUE(process.load().contains("ok"));
     Json const answer = process.ask({{"op", "click"}, {"control", "Bouton_Internet"}});
     expect_fatal_report(answer, {"La lecture", "INTERNET.DAT", "L'accès est refusé."});
@@ -197,13 +197,13 @@ TEST_F(Rights, ToReadTheAddressBookAreNotNeededBeforeItIsOpened) {
 
 TEST_F(Rights, ToWriteTheProgramsOwnFolderAreNotNeededOnceItsResourcesStand) {
     set_rights(folder.path(), 0555);
-    PilotProcess process{folder.path(), RunBy::user_without_rights};
+    PilotProcess process{folder.path(), {}, RunBy::user_without_rights};
     EXPECT_TRUE(process.load().contains("ok"));
     EXPECT_EQ(process.end(), 0);
 }
 
 TEST_F(Rights, WhereTheRescuedRecordCannotBeWrittenEitherTheReportSaysSo) {
-    PilotProcess process{folder.path(), RunBy::user_without_rights};
+    PilotProcess process{folder.path(), {}, RunBy::user_without_rights};
     ASSERT_TRUE(process.load().contains("ok"));
     process.ask({{"op", "set"}, {"control", "Text_prenom"}, {"value", "Marie"}});
     set_rights(resources(), 0555);
@@ -214,7 +214,7 @@ TEST_F(Rights, WhereTheRescuedRecordCannotBeWrittenEitherTheReportSaysSo) {
                          "La consultation à l'écran n'a pas pu être gardée", "SAUVETAGE.fcy"});
     EXPECT_EQ(process.end(), 1);
     EXPECT_TRUE(std::filesystem::is_empty(resources() / "DATA1"));
-    EXPECT_EQ(bytes_of(folder.path() / settings_file), "0,0\r\n");
+    EXPECT_EQ(file_content(folder.path() / settings_file), "0,0\r\n");
 }
 
 }  // namespace

@@ -47,7 +47,7 @@ TEST(Rescue, KeepsAnUnsavedConsultationAsARecord) {
         fail(start, folder.path()),
         {"CONFIG.CFG", "Un dossier se trouve à la place du fichier.", "SAUVETAGE.fcy"});
     EXPECT_EQ(start.pilot().exit_status(), 1);
-    EXPECT_EQ(bytes_of(folder.path() / "RESSOURCES/DATA1/SAUVETAGE.fcy"), person);
+    EXPECT_EQ(file_content(folder.path() / "RESSOURCES/DATA1/SAUVETAGE.fcy"), person);
 }
 
 TEST(Rescue, NeverWritesOverAnEarlierRescue) {
@@ -68,14 +68,14 @@ TEST(Rescue, NeverWritesOverAnEarlierRescue) {
 
 TEST(Rescue, FillsTheFirstFreeName) {
     TemporaryFolder const folder;
-    put(folder.path() / "RESSOURCES/DATA1/SAUVETAGE.fcy", "one");
-    put(folder.path() / "RESSOURCES/DATA1/SAUVETAGE (3).fcy", "three");
+    put_file(folder.path() / "RESSOURCES/DATA1/SAUVETAGE.fcy", "one");
+    put_file(folder.path() / "RESSOURCES/DATA1/SAUVETAGE (3).fcy", "three");
     Start start{folder.path()};
     type_person(start);
     expect_fatal_report(fail(start, folder.path()), {"SAUVETAGE (2).fcy"});
-    EXPECT_EQ(bytes_of(folder.path() / "RESSOURCES/DATA1/SAUVETAGE (2).fcy"), person);
-    EXPECT_EQ(bytes_of(folder.path() / "RESSOURCES/DATA1/SAUVETAGE.fcy"), "one");
-    EXPECT_EQ(bytes_of(folder.path() / "RESSOURCES/DATA1/SAUVETAGE (3).fcy"), "three");
+    EXPECT_EQ(file_content(folder.path() / "RESSOURCES/DATA1/SAUVETAGE (2).fcy"), person);
+    EXPECT_EQ(file_content(folder.path() / "RESSOURCES/DATA1/SAUVETAGE.fcy"), "one");
+    EXPECT_EQ(file_content(folder.path() / "RESSOURCES/DATA1/SAUVETAGE (3).fcy"), "three");
 }
 
 TEST(Rescue, IsARecordLikeAnyOther) {
@@ -102,7 +102,7 @@ TEST(Rescue, GoesToTheFolderInUse) {
     type_person(start);
     start.click("Charge(2)");
     expect_fatal_report(fail(start, folder.path()), {"SAUVETAGE.fcy"});
-    EXPECT_EQ(bytes_of(folder.path() / "RESSOURCES/DATA2/SAUVETAGE.fcy"), person);
+    EXPECT_EQ(file_content(folder.path() / "RESSOURCES/DATA2/SAUVETAGE.fcy"), person);
     EXPECT_TRUE(std::filesystem::is_empty(folder.path() / "RESSOURCES/DATA1"));
 }
 
@@ -111,7 +111,7 @@ TEST(Rescue, KeepsWhatIsOnScreenWithoutFillingInNames) {
     Start start{folder.path()};
     start.ask({{"op", "set"}, {"control", "Text_Note"}, {"value", "seule"}});
     fail(start, folder.path());
-    EXPECT_EQ(bytes_of(folder.path() / "RESSOURCES/DATA1/SAUVETAGE.fcy"),
+    EXPECT_EQ(file_content(folder.path() / "RESSOURCES/DATA1/SAUVETAGE.fcy"),
               "\"\",\"\",\"01\",\"01\",\"19\",\"00\",0,\"\",\"seule\"\r\n");
 }
 
@@ -127,7 +127,7 @@ TEST(Rescue, KeepsNothingWhereNothingIsUnsaved) {
 
 TEST(Rescue, KeepsNothingOfARecordJustLoaded) {
     TemporaryFolder const folder;
-    put(folder.path() / "RESSOURCES/DATA1/Dupont Marie.fcy", person);
+    put_file(folder.path() / "RESSOURCES/DATA1/Dupont Marie.fcy", person);
     Start start{folder.path()};
     start.click("Charge(1)");
     start.ask({{"op", "choose"}, {"control", "File_Fichier"}, {"item", "Dupont Marie.fcy"}});
@@ -145,7 +145,7 @@ TEST(Rescue, HelpsWhereAWaitPassesMidnight) {
     Json const answer = start.click("Command_DateNow");
     expect_fatal_report(answer, {"SAUVETAGE.fcy"});
     EXPECT_EQ(start.pilot().exit_status(), 1);
-    EXPECT_EQ(bytes_of(folder.path() / "RESSOURCES/DATA1/SAUVETAGE.fcy"),
+    EXPECT_EQ(file_content(folder.path() / "RESSOURCES/DATA1/SAUVETAGE.fcy"),
               "\"\",\"Anc\xEAtre\",\"01\",\"01\",\"16\",\"00\",0,\"\",\"\"\r\n");
 }
 
@@ -173,7 +173,7 @@ TEST(Rescue, OfAnErrorInsideAWaitIsToldOnce) {
     }
     EXPECT_EQ(reports, 1) << answer;
     EXPECT_FALSE(std::filesystem::exists(folder.path() / "RESSOURCES/DATA1/SAUVETAGE (2).fcy"));
-    EXPECT_EQ(bytes_of(folder.path() / "RESSOURCES/DATA1/SAUVETAGE.fcy"), person);
+    EXPECT_EQ(file_content(folder.path() / "RESSOURCES/DATA1/SAUVETAGE.fcy"), person);
 }
 
 TEST(Rescue, SaysSoWhereTheRecordCannotBeKeptEither) {

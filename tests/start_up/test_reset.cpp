@@ -117,11 +117,11 @@ TEST(Reset, GivesTheKeyboardToTheFirstName) {
 TEST(Reset, BringsTheDefaultPortraitBack) {
     Visit visit;
     // A picture of one pixel.
-    put(visit.folder() / "RESSOURCES/IMAGE/a.gif",
-        std::string(
-            "GIF89a\x01\0\x01\0\x80\0\0\0\0\0\xFF\xFF\xFF,\0\0\0\0\x01\0\x01\0\0\x02\x02"
-            "D\x01\0;",
-            35));
+    put_file(visit.folder() / "RESSOURCES/IMAGE/a.gif",
+             std::string(
+                 "GIF89a\x01\0\x01\0\x80\0\0\0\0\0\xFF\xFF\xFF,\0\0\0\0\x01\0\x01\0\0\x02\x02"
+                 "D\x01\0;",
+                 35));
     visit.click("Bouton_Image");
     visit.choose("File_Fichier", "a.gif");
     visit.double_click("File_Fichier");

@@ -38,7 +38,7 @@ ReadCase const read_cases[] = {
 class SettingsRead : public testing::TestWithParam<ReadCase> {};
 TEST_P(SettingsRead, GivesTheSchemeAndIsRewrittenWithTwoFields) {
     TemporaryFolder const folder;
-    put(folder.path() / settings_file, GetParam().bytes);
+    put_file(folder.path() / settings_file, GetParam().bytes);
     Start start{folder.path()};
     ASSERT_TRUE(start.is_up()) << start.answer();
     EXPECT_EQ(start.value("couleur_kundali"), GetParam().scheme);
@@ -46,7 +46,7 @@ TEST_P(SettingsRead, GivesTheSchemeAndIsRewrittenWithTwoFields) {
     EXPECT_EQ(start.value("Picture_KUNDALI.Picture"),
               "Image_Kundali(" + std::to_string(GetParam().scheme) + ")");
     EXPECT_EQ(start.value("Mnu_abrege.Checked"), false);
-    EXPECT_EQ(bytes_of(folder.path() / settings_file), GetParam().rewritten);
+    EXPECT_EQ(file_content(folder.path() / settings_file), GetParam().rewritten);
 }
 INSTANTIATE_TEST_SUITE_P(Files, SettingsRead, testing::ValuesIn(read_cases),
                          [](auto const& row) { return row.param.name; });
@@ -59,7 +59,7 @@ struct Step {
 TEST(Settings, EachChoiceOfTheMenuRewritesBothFields) {
     Visit visit;
     auto const file = visit.folder() / settings_file;
-    EXPECT_EQ(bytes_of(file), "0,0\r\n");
+    EXPECT_EQ(file_content(file), "0,0\r\n");
     constexpr Step steps[] = {
         {"MnuAzur_Aum", "1,0\r\n"},  {"MnuMauve_cycle", "2,0\r\n"}, {"Mnu_abrege", "2,9\r\n"},
         {"MnuMauve_Aum", "3,9\r\n"}, {"MnuAzur_cycle", "0,9\r\n"},  {"Mnu_abrege", "0,0\r\n"},
@@ -67,22 +67,22 @@ TEST(Settings, EachChoiceOfTheMenuRewritesBothFields) {
     };
     for (auto const& step : steps) {
         visit.click(step.entry);
-        EXPECT_EQ(bytes_of(file), step.bytes) << step.entry;
+        EXPECT_EQ(file_content(file), step.bytes) << step.entry;
     }
 }
 
 TEST(Settings, TheSchemeInForceIsNotWrittenAgain) {
     Visit visit;
-    put(visit.folder() / settings_file, "untouched");
+    put_file(visit.folder() / settings_file, "untouched");
     visit.click("MnuAzur_cycle");
-    EXPECT_EQ(bytes_of(visit.folder() / settings_file), "untouched");
+    EXPECT_EQ(file_content(visit.folder() / settings_file), "untouched");
 }
 
 TEST(Settings, ALostFileIsWrittenAgainByTheNextChoice) {
     Visit visit;
     std::filesystem::remove(visit.folder() / settings_file);
     visit.click("MnuMauve_cycle");
-    EXPECT_EQ(bytes_of(visit.folder() / settings_file), "2,0\r\n");
+    EXPECT_EQ(file_content(visit.folder() / settings_file), "2,0\r\n");
 }
 
 TEST(Settings, AChosenSchemeDoesNotSurviveTheProgram) {
@@ -91,11 +91,11 @@ TEST(Settings, AChosenSchemeDoesNotSurviveTheProgram) {
         Start start{folder.path()};
         start.click("MnuMauve_cycle");
     }
-    EXPECT_EQ(bytes_of(folder.path() / settings_file), "2,0\r\n");
+    EXPECT_EQ(file_content(folder.path() / settings_file), "2,0\r\n");
     Start start{folder.path()};
     EXPECT_EQ(start.value("couleur_kundali"), 0);
     EXPECT_EQ(start.value("MnuAzur_cycle.Checked"), true);
-    EXPECT_EQ(bytes_of(folder.path() / settings_file), "0,0\r\n");
+    EXPECT_EQ(file_content(folder.path() / settings_file), "0,0\r\n");
 }
 
 // The short names leave a 9 in the last field; the next start takes it for a scheme, keeps it
@@ -107,17 +107,17 @@ TEST(Settings, AfterShortNamesOneStartFailsAndTheNextSucceeds) {
         Start start{folder.path()};
         start.click("Mnu_abrege");
     }
-    EXPECT_EQ(bytes_of(file), "0,9\r\n");
+    EXPECT_EQ(file_content(file), "0,9\r\n");
     {
         Start failed{folder.path()};
         expect_fatal_report(failed.answer(), {});
         EXPECT_EQ(failed.pilot().exit_status(), 1);
     }
-    EXPECT_EQ(bytes_of(file), "9,0\r\n");
+    EXPECT_EQ(file_content(file), "9,0\r\n");
     Start good{folder.path()};
     EXPECT_TRUE(good.is_up()) << good.answer();
     EXPECT_EQ(good.value("couleur_kundali"), 0);
-    EXPECT_EQ(bytes_of(file), "0,0\r\n");
+    EXPECT_EQ(file_content(file), "0,0\r\n");
 }
 
 struct MissingScheme {
@@ -137,21 +137,21 @@ constexpr MissingScheme missing_schemes[] = {
 class SchemeWithoutPicture : public testing::TestWithParam<MissingScheme> {};
 TEST_P(SchemeWithoutPicture, IsWrittenFirstThenEndsTheRun) {
     TemporaryFolder const folder;
-    put(folder.path() / settings_file, GetParam().bytes);
+    put_file(folder.path() / settings_file, GetParam().bytes);
     Start failed{folder.path()};
     expect_fatal_report(failed.answer(), {});
     EXPECT_EQ(failed.pilot().exit_status(), 1);
-    EXPECT_EQ(bytes_of(folder.path() / settings_file), GetParam().rewritten);
+    EXPECT_EQ(file_content(folder.path() / settings_file), GetParam().rewritten);
     // The run ended before it came to the address book.
     EXPECT_FALSE(std::filesystem::exists(folder.path() / address_file));
 }
 TEST_P(SchemeWithoutPicture, LeavesAFileFromWhichTheProgramStarts) {
     TemporaryFolder const folder;
-    put(folder.path() / settings_file, GetParam().bytes);
+    put_file(folder.path() / settings_file, GetParam().bytes);
     { Start const failed{folder.path()}; }
     Start good{folder.path()};
     EXPECT_TRUE(good.is_up()) << good.answer();
-    EXPECT_EQ(bytes_of(folder.path() / settings_file), "0,0\r\n");
+    EXPECT_EQ(file_content(folder.path() / settings_file), "0,0\r\n");
 }
 INSTANTIATE_TEST_SUITE_P(Files, SchemeWithoutPicture, testing::ValuesIn(missing_schemes),
                          [](auto const& row) { return row.param.name; });

@@ -61,6 +61,8 @@ def _end(process):
 class Desk:
     """A virtual screen with a window manager; a context manager."""
 
+    SCREEN_OPTIONS = []
+
     def __init__(self, size="1280x1024"):
         self.size = size
         self._open = contextlib.ExitStack()
@@ -79,7 +81,7 @@ class Desk:
         # The picture of the screen lies in a file, where it is read without asking anybody.
         self._start(
             ["Xvfb", "-displayfd", str(writer), "-screen", "0", self.size + "x24", "-nolisten", "tcp",
-             "-noreset", "-fbdir", self.folder],
+             "-noreset", "-fbdir", self.folder, *self.SCREEN_OPTIONS],
             dict(os.environ),
             pass_fds=[writer],
         )
@@ -90,20 +92,24 @@ class Desk:
             assert byte, "the virtual screen did not start"
             number += byte
         os.close(reader)
-        self.environment = dict(
-            os.environ,
-            DISPLAY=":" + number.decode().strip(),
-            XDG_RUNTIME_DIR=self.folder,
-            HOME=self.folder,
-            QT_QPA_PLATFORM="xcb",
-            QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
-        )
-        self.environment.pop("WAYLAND_DISPLAY", None)
+        self.environment = dict(self._surroundings(), DISPLAY=":" + number.decode().strip())
         self._start(["openbox"], self.environment)
         wait_for(
             lambda: b"window id" in self.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"]),
             "the window manager",
         )
+
+    def _surroundings(self):
+        """What programs on this desk find in their environment, but for the screen."""
+        found = dict(
+            os.environ,
+            XDG_RUNTIME_DIR=self.folder,
+            HOME=self.folder,
+            QT_QPA_PLATFORM="xcb",
+            QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
+        )
+        found.pop("WAYLAND_DISPLAY", None)
+        return found
 
     def start_bus(self):
         """Starts a message bus of this desk's own. Screen readers' bus, which it starts in turn,
@@ -124,14 +130,9 @@ class Desk:
         self._open.close()
 
     def _start(self, command, environment, **more):
+        quiet = {name: subprocess.DEVNULL for name in ("stdin", "stdout", "stderr")}
         process = subprocess.Popen(
-            command,
-            env=environment,
-            stdin=subprocess.DEVNULL,
-            stdout=subprocess.DEVNULL,
-            stderr=subprocess.DEVNULL,
-            preexec_fn=end_with_parent,
-            **more,
+            command, env=environment, preexec_fn=end_with_parent, **{**quiet, **more}
         )
         self._open.callback(_end, process)
         return process

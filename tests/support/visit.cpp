@@ -10,9 +10,11 @@ namespace navarun::test {
 
 TemporaryFolder::TemporaryFolder() {
     static std::atomic<int> number{0};
-    m_path = std::filesystem::temp_directory_path() /
-             ("navarun-test-" + std::to_string(getpid()) + "-" + std::to_string(number++));
-    std::filesystem::create_directories(m_path);
+    std::string const name = "navarun-test-" + std::to_string(getpid()) + "-";
+    // One that is there already was left by a killed run: numbers of processes come again.
+    do {
+        m_path = std::filesystem::temp_directory_path() / (name + std::to_string(number++));
+    } while (!std::filesystem::create_directory(m_path));
 }
 
 TemporaryFolder::~TemporaryFolder() {

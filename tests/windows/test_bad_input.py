@@ -6,6 +6,7 @@ import json
 import os
 import shutil
 import subprocess
+import sys
 import tempfile
 import time
 import unittest
@@ -15,6 +16,9 @@ import days
 import pilots
 from days import click, person, saved, selected
 from pilots import HERE_PILOT, WINDOWS_PILOT, Conversation
+
+sys.path.append(os.path.join(os.path.dirname(os.path.abspath(__file__)), "../support"))
+from preload import preloadable
 
 RECORD = "RESSOURCES/DATA1/Durand Jean.fcy"
 WRITE_IT = [*person("jean", "durand", "01011980", "une note à garder"), click("Command_Disk_Vert")]
@@ -187,10 +191,11 @@ class FailingDisk(unittest.TestCase):
         WINDOWS_PILOT.run(self.folder, days.MORNING + saved("jean", "durand", "01011980"))
         self.record = self.folder / RECORD
         self.before = self.record.read_bytes()
+        self.shim = preloadable(os.environ["FAULT_SHIM"], folder.name)
 
     def with_fault(self, **fault):
         mark = self.folder.parent / "mark"
-        shim = {"LD_PRELOAD": os.environ["FAULT_SHIM"], "FAULT_MARK": str(mark),
+        shim = {"LD_PRELOAD": self.shim, "FAULT_MARK": str(mark),
                 "FAULT_FOLDER": str(self.folder / "RESSOURCES/DATA1")}
         answers = WINDOWS_PILOT.answers(
             self.folder, days.MORNING + self.SAVE_AGAIN,
