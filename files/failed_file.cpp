@@ -6,7 +6,7 @@
 namespace navarun {
 
 void fail(char const* attempted, std::string const& file, std::string const& reason) {
-    throw FatalError{std::string{attempted} + " du fichier « " + file + " » a échoué.", reason};
+    throw FatalError{std::string{attempted} + " « " + file + " » a échoué.", reason};
 }
 
 std::string reason::by_number(unsigned long number) {

@@ -8,10 +8,10 @@ namespace navarun {
 /// What was tried.
 namespace attempt {
 
-inline constexpr char const* reading = "La lecture";
-inline constexpr char const* writing = "L'écriture";
-inline constexpr char const* moving = "Le déplacement";
-inline constexpr char const* deleting = "La suppression";
+inline constexpr char const* reading = "La lecture du fichier";
+inline constexpr char const* writing = "L'écriture du fichier";
+inline constexpr char const* moving = "Le déplacement du fichier";
+inline constexpr char const* deleting = "La suppression du fichier";
 
 }  // namespace attempt
 
