@@ -5,6 +5,9 @@
 #include <cmath>
 #include <limits>
 
+#include "shell/screen/form.h"
+
+
 namespace navarun::desktop {
 
 namespace {

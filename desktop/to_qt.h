@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "shell/screen/control.h"
+#include "shell/screen/units.h"
 
 namespace navarun::desktop {
 

@@ -14,6 +14,7 @@
 #include "files/folders.h"
 #include "shell/image_store.h"
 #include "shell/program.h"
+#include "shell/screen/units.h"
 
 namespace navarun {
 

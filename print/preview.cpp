@@ -9,6 +9,7 @@
 #include "print/options.h"
 #include "print/report.h"
 #include "shell/program.h"
+#include "shell/screen/units.h"
 
 namespace navarun {
 

@@ -13,6 +13,7 @@
 #include "print/report_layout.h"
 #include "readings/destiny_palace.h"
 #include "shell/program.h"
+#include "shell/screen/units.h"
 
 namespace navarun {
 

@@ -17,6 +17,7 @@
 
 #include "shell/form1.h"
 #include "shell/screen/screen.h"
+#include "shell/screen/units.h"
 
 namespace {
 

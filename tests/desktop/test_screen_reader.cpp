@@ -2,6 +2,7 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QScrollBar>
 
 #include "tests/desktop/window_fixture.h"
