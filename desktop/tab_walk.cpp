@@ -7,7 +7,6 @@
 
 #include "shell/screen/form.h"
 
-
 namespace navarun::desktop {
 
 namespace {
