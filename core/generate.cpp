@@ -24,7 +24,7 @@ void generate(Program& program) {
     }
     load_chart(program);
     close_age_chooser(program);
-    change_couleurAge(program, "vert");
+    change_couleurAge(program, "VERT");
     CyclePartiel_annule(program);
     form.Mnuperiode.Enabled = true;
     close_destiny_palace(program);
@@ -54,7 +54,7 @@ void cycle(Program& program) {
         period.FontBold = false;
         month.FontBold = false;
     }
-    change_couleurAge(program, "vert");
+    change_couleurAge(program, "VERT");
 }
 
 void wire_generate(Program& program) {

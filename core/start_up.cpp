@@ -108,7 +108,7 @@ void Form_Load(Program& program) {
     defile_MahaDasha(program);
     Dinaka_Punanka_Text(program);
     cycle20ans(program);
-    change_couleurAge(program, "vert");
+    change_couleurAge(program, "VERT");
     triDeva(program);
 }
 

@@ -168,6 +168,7 @@ std::string proper_case(std::string_view text) {
 }
 
 bool equal_ignoring_case(std::string_view one, std::string_view other) {
+    if (one == other) return true;
     while (!one.empty() && !other.empty()) {
         if (lower(take_character(one)) != lower(take_character(other))) return false;
     }

@@ -28,7 +28,7 @@ std::string lower(std::string_view text);
 /// First letter of each word capital, the others small. Only a blank starts a new word, so that
 /// "jean-pierre dupont" becomes "Jean-pierre Dupont".
 std::string proper_case(std::string_view text);
-/// Whether two texts are equal but for the case of their letters.
+/// Whether two texts are equal but for the case of their letters. Equal ones are told soon.
 bool equal_ignoring_case(std::string_view one, std::string_view other);
 
 /// The number that `text` starts with: its leading decimal digits, 0 where there is none.

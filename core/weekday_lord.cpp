@@ -29,7 +29,7 @@ void trouverJourdeSemaine(Program& program) {
         consultation.numero_jour = weekday_of(*date);
         form.Label_jourdeSemaine.Caption = weekday(consultation.numero_jour).name;
     }
-    change_couleurAge(program, "rouge");
+    change_couleurAge(program, "ROUGE");
     if (date) {
         auto const& day = weekday(consultation.numero_jour);
         auto const& lord = row_of(day.lord);

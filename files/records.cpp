@@ -179,7 +179,7 @@ void load_selected_record(Program& program) {
     program.record_values.fichier_selectionne = form.File_Fichier.selected();
     Charge_Data(program);
     if (!read_date(program.consultation.birth.date_naissance())) {
-        change_couleurAge(program, "rouge");
+        change_couleurAge(program, "ROUGE");
         program.platform.box("Erreur", "Date de naissance invalide !", BoxButtons::ok);
         return;
     }
@@ -188,7 +188,7 @@ void load_selected_record(Program& program) {
     form.Command_Disk_Vert.Enabled = true;
     form.Command_Disk_Vert.Picture = picture::saved;
     form.HScroll_age.Tag = "ROUGE";
-    change_couleurAge(program, "vert");
+    change_couleurAge(program, "VERT");
     triDeva(program);
     CyclePartiel_annule(program);
     close_browser(program);

@@ -29,6 +29,9 @@ constexpr std::array<QualityRow, 5> quality_rows{{
 }};
 // clang-format on
 
+constexpr std::array<std::string_view, 12> numbers{"1", "2", "3", "4",  "5",  "6",
+                                                   "7", "8", "9", "10", "11", "12"};
+
 struct Description {
     std::string_view matters;
     std::string_view people_heading;
@@ -95,6 +98,10 @@ Quality quality_of_palace(int palace) {
 
 QualityRow const& row_of(Quality quality) {
     return quality_rows[static_cast<std::size_t>(quality)];
+}
+
+std::string_view palace_number(int palace) {
+    return numbers.at(static_cast<std::size_t>(palace - 1));
 }
 
 std::string description_palais(int palace) {

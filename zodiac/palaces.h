@@ -21,6 +21,10 @@ struct QualityRow {
 Quality quality_of_palace(int palace);
 QualityRow const& row_of(Quality quality);
 
+/// The number as a cell shows it.
+/// @param palace  1..12; another one is a programming error.
+std::string_view palace_number(int palace);
+
 /// What a palace stands for: three headed blocks.
 /// @param palace  1..12; another one is a programming error.
 std::string description_palais(int palace);

@@ -70,7 +70,7 @@ void number_the_other_palaces(Program& program) {
         auto& label = program.form1.Label_Solaire(consultation.palais_index);
         auto const& quality = row_of(quality_of_palace(palace));
         label.Visible = true;
-        label.Caption = std::to_string(palace);
+        label.Caption = palace_number(palace);
         label.BackColor = quality.back;
         label.ToolTipText = quality.tooltip;
         consultation.categorie_palais[static_cast<std::size_t>(consultation.palais_index - 1)] =
