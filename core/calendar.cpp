@@ -13,7 +13,6 @@ namespace {
 
 using std::chrono::day;
 using std::chrono::month;
-using std::chrono::months;
 using std::chrono::year;
 using std::chrono::years;
 
@@ -32,14 +31,6 @@ int read_field(std::string_view text, std::size_t digits) {
         number = 10 * number + (c - '0');
     }
     return number;
-}
-
-YearMonthDay clipped(std::chrono::year_month in_month, day wanted) {
-    // A day that every month has.
-    if (wanted <= day{28}) return in_month / wanted;
-    auto const last = std::chrono::year_month_day_last{
-        in_month.year(), std::chrono::month_day_last{in_month.month()}};
-    return in_month / std::min(wanted, last.day());
 }
 
 std::optional<YearMonthDay> parts_of(int day_number, int month_number, int year_number) {
@@ -127,10 +118,6 @@ int weekday_of(Date date) {
 }
 
 Date add_months(Date date, int count) { return add_months(YearMonthDay{date}, count); }
-
-YearMonthDay add_months(YearMonthDay date, int count) {
-    return clipped(date.year() / date.month() + months{count}, date.day());
-}
 
 Date add_years(Date date, int count) { return add_years(YearMonthDay{date}, count); }
 

@@ -1,6 +1,7 @@
 // The proleptic Gregorian calendar, and the date text dd/mm/yyyy in which every date is shown.
 #pragma once
 
+#include <algorithm>
 #include <chrono>
 #include <optional>
 #include <string>
@@ -33,10 +34,20 @@ int day_of(Date date);
 /// 1 for Sunday to 7 for Saturday.
 int weekday_of(Date date);
 
+/// A day of a month, or where the month is shorter its last.
+constexpr YearMonthDay clipped(std::chrono::year_month in_month, std::chrono::day wanted) {
+    // A day that every month has.
+    if (wanted <= std::chrono::day{28}) return in_month / wanted;
+    auto const last = in_month / std::chrono::last;
+    return in_month / std::min(wanted, last.day());
+}
+
 /// The calendar addition: the day of the month stays, clipped to the last day of the target
 /// month (29/02/1952 plus one year is 28/02/1953).
 Date add_months(Date date, int months);
-YearMonthDay add_months(YearMonthDay date, int months);
+constexpr YearMonthDay add_months(YearMonthDay date, int months) {
+    return clipped(date.year() / date.month() + std::chrono::months{months}, date.day());
+}
 Date add_years(Date date, int years);
 YearMonthDay add_years(YearMonthDay date, int years);
 /// Whole days from `from` to `to`; negative where `to` lies before.
