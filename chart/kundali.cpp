@@ -5,6 +5,7 @@
 
 #include "chart/arrow_shape.h"
 #include "chart/colour_schemes.h"
+#include "core/fatal_error.h"
 #include "core/small_number.h"
 #include "files/browser.h"
 #include "files/settings.h"

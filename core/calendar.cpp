@@ -5,7 +5,6 @@
 #include <array>
 
 #include "core/date_parts.h"
-#include "core/text.h"
 
 namespace navarun {
 

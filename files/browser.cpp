@@ -6,7 +6,6 @@
 
 #include "core/dialogue.h"
 #include "core/small_number.h"
-#include "core/text.h"
 #include "files/durable_file.h"
 #include "files/file_list.h"
 #include "files/portrait.h"

@@ -2,8 +2,6 @@
 #include "periods/year_month_lords.h"
 
 #include <optional>
-#include <string>
-#include <utility>
 
 #include "core/cells.h"
 #include "core/date_parts.h"
