@@ -93,6 +93,10 @@ class Desk:
             number += byte
         os.close(reader)
         self.environment = dict(self._surroundings(), DISPLAY=":" + number.decode().strip())
+        # The first key typed by a program gives the screen another keyboard. A window manager then
+        # lets go of its keys and takes them anew, and what is typed meanwhile is not its own: it
+        # meets that keyboard from its start.
+        self.press("shift")
         self._start(["openbox"], self.environment)
         wait_for(
             lambda: b"window id" in self.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"]),
