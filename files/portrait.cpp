@@ -2,6 +2,7 @@
 #include "files/portrait.h"
 
 #include <algorithm>
+#include <variant>
 
 #include "chart/palace_colours.h"
 #include "core/code_page.h"
@@ -82,12 +83,16 @@ void affiche_image_ajustee(Program& program, std::string const& name) {
 }
 
 void choose_portrait(Program& program, std::string const& name) {
-    // Under a name that its record cannot hold, the portrait would not be found again.
-    bool const holdable = fitted_to_code_page(name) == name;
+    // Under a name that its record cannot hold, the portrait would not be found again: of
+    // foreign letters, or with the quote that ends a field.
+    bool const holdable =
+        fitted_to_code_page(name) == name && name.find('"') == std::string::npos;
     auto const path = program.path_of(program.folders.dossier_image + name);
     std::string const held = holdable ? name : copied_as_a_record_holds_it(program, path, name);
-    program.consultation.fichier_photo = held;
+    // First: the record of a consultation that had to be rescued never names what cannot be
+    // shown.
     affiche_image_ajustee(program, held);
+    program.consultation.fichier_photo = held;
     couleur_Disk_Rouge_Vert(program);
     leave_image_mode(program);
     close_browser(program);

@@ -167,8 +167,10 @@ Record record_on_screen(Program& program) {
 
 void refuse_bad_file_name(std::string const& name) {
     if (std::ranges::none_of(name, is_refused_in_file_names)) return;
-    fail(attempt::writing, name,
-         "Un nom de fichier ne prend aucun de ces signes : / \\ : * ? \" < > |");
+    fail(
+        attempt::writing, name,
+        "Un nom de fichier ne prend aucun de ces signes : / \\ : * ? \" < > |, ni fin de ligne "
+        "ni autre signe de commande.");
 }
 
 void load_selected_record(Program& program) {

@@ -183,6 +183,21 @@ TEST_F(Portrait, ADroppedPictureWithAQuoteInItsNameNeverSpoilsTheRecord) {
     EXPECT_TRUE(visit.text("Picture_PHOTO.Picture").starts_with("file:"));
 }
 
+TEST_F(Portrait, AChosenPictureWithAQuoteInItsNameNeverSpoilsTheRecord) {
+    put_file(visit.images() / "la \"photo\".jpg", jpeg(10, 10));
+    visit.name_person("Zoe", "Dupont");
+    visit.set("Text_Note", "la note");
+    visit.click("Bouton_Image");
+    visit.choose("File_Fichier", "la \"photo\".jpg");
+    visit.double_click("File_Fichier");
+    EXPECT_EQ(visit.text("fichier_photo"), "la _photo_.jpg");
+    visit.save();
+    visit.load("Dupont Zoe.fcy");
+    EXPECT_EQ(visit.exit_status(), std::nullopt);
+    EXPECT_EQ(visit.text("Text_Note.Text"), "la note");
+    EXPECT_EQ(visit.text("Picture_PHOTO.Picture"), "file:la _photo_.jpg");
+}
+
 TEST_F(Portrait, AFileThatWentAwayBeforeTheDropEndsTheRun) {
     auto const answer = visit.fatal({{"op", "drop"},
                                      {"control", "Picture_PHOTO"},
@@ -203,6 +218,17 @@ TEST_F(Portrait, AChosenFileWithoutAHeaderEndsTheRun) {
     visit.choose("File_Fichier", "vide.jpg");
     auto const answer = visit.fatal_double_click("File_Fichier");
     EXPECT_NE(report_of(answer).find("vide.jpg"), std::string::npos);
+}
+
+// What is rescued then must not end the next run too, when it is loaded.
+TEST_F(Portrait, AChosenFileThatCannotBeShownIsNotThePortraitOfWhatIsRescued) {
+    put_file(visit.images() / "vide.jpg", "");
+    visit.name_person("Zoe", "Dupont");
+    visit.click("Bouton_Image");
+    visit.choose("File_Fichier", "vide.jpg");
+    visit.fatal_double_click("File_Fichier");
+    EXPECT_EQ(visit.record("SAUVETAGE.fcy"),
+              "\"Zoe\",\"Dupont\",\"01\",\"01\",\"19\",\"00\",0,\"\",\"\"\r\n");
 }
 
 TEST_F(Portrait, AChosenFileThatWentAwayEndsTheRun) {
