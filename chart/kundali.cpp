@@ -2,6 +2,7 @@
 #include "chart/kundali.h"
 
 #include <array>
+#include <cstdint>
 
 #include "chart/arrow_shape.h"
 #include "chart/colour_schemes.h"

@@ -10,9 +10,10 @@ namespace navarun {
 
 class Program;
 
-/// Shows the cycle year of an age: the captions of its first and last day, and the last day
-/// before it, which the grid is reckoned from.
-/// @param age  >= 0
+/// Shows the cycle year of an age in the captions of its first and last day; `fin_annee_defile`
+/// becomes the day before the first.
+/// @param birth  a date that exists
+/// @param age    >= 0
 void show_cycle_year(Program& program, YearMonthDay birth, int age);
 
 /// Writes which lord rules the current age, and which of his years it is. Where the person's

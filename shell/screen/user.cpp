@@ -2,7 +2,9 @@
 #include "shell/screen/user.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
+#include <vector>
 
 #include "core/code_page.h"
 #include "core/text.h"
