@@ -183,6 +183,7 @@ class Day:
             assert told[0] == effect["title"], f"the box {told}, should be {effect}"
             words = effect["text"].replace("\r\n", "\n")
             assert words in told[1], f"the box {told}, should say {words!r}"
+            wait_for(self.windows.box_has_keyboard, f"the keyboard in the box {effect['title']}")
             self.hand.do(("keys", "Return" if effect["answer"] == 1 else "Escape"))
             if not self.pilot.ended:
                 wait_for(lambda: self.windows.dialog() != told, "the box gone")

@@ -166,22 +166,13 @@ class Hand:
         x, y, width, height = extents(found)
         self._xdo("mousemove", x + width // 2, y + height // 2, "click", 1)
 
-    def _aside(self, form, x, y):
-        """Moves a small window by its frame to a place of the screen."""
-        window = self._windows.window_of(self.forms[form])
-        name = window.get_name()
-        number = wait_for(lambda: self._desk.windows(name), name)[0]
-        self._xdo("windowmove", "--sync", number, x, y)
-
     def _close(self, form):
         """Closes a window as its frame does."""
         self._activate(form)
         self._xdo("key", "alt+F4")
 
     def _activate(self, form):
-        title = self.forms[form].values["Caption"]
-        number = wait_for(lambda: self._desk.windows(title), title)[0]
-        self._xdo("windowactivate", "--sync", number)
+        self._desk.activate(self._desk.window(self.forms[form].values["Caption"]))
 
     # The keyboard.
 
@@ -195,16 +186,10 @@ class Hand:
         """Walks by Tab until the keyboard stands on a control of that name or array; the way is
         kept in `walked`."""
         self.walked = []
+        here = self.focused()
         for _ in range(70):
             self._xdo("key", "shift+Tab" if back else "Tab")
-            before = self.walked[-1:]
-            try:
-                here = wait_for(
-                    lambda: next((n for n in [self.focused()] if n and [n] != before), None),
-                    "the keyboard somewhere", 5,
-                )
-            except AssertionError as gone:
-                raise AssertionError(f"{gone}; walked {self.walked}") from None
+            here = self._keyboard_elsewhere(here)
             self.walked.append(here)
             if here == base or here.split("(")[0] == base:
                 return
@@ -212,28 +197,41 @@ class Hand:
 
     def _press_and_stay(self, *keys):
         """Keys that move the keyboard's place within an array; where it is then is in `walked`."""
+        before = self.focused()
         self._keys(*keys)
-        self.walked = [wait_for(self.focused, "the keyboard somewhere")]
+        self.walked = [self._keyboard_elsewhere(before)]
+
+    def _keyboard_elsewhere(self, before):
+        """Waits until the keyboard stands on another control than `before`; which it is."""
+
+        def elsewhere():
+            here = self.focused()
+            return here if here != before else None
+
+        return wait_for(elsewhere, lambda: f"the keyboard elsewhere; walked {self.walked}")
+
+    def _wait_keyboard(self, name):
+        """Waits until what is typed goes to a field."""
+        wait_for(lambda: self._has_keyboard(self.control(name), self.node(name)),
+                 f"the keyboard in {name}")
+
+    @staticmethod
+    def _has_keyboard(control, node):
+        return has(node.get_child_at_index(1) if control.kind == "combo" else node, STATE.FOCUSED)
 
     def focused(self):
         """The control of the main window on which the keyboard stands."""
         form = self.forms["Form1"]
         nodes = self._windows.nodes_of(form)
         for control in form.placed:
-            node = nodes[control.name]
-            if control.kind == "combo":
-                node = node.get_child_at_index(1)
-            if has(node, STATE.FOCUSED):
+            if self._has_keyboard(control, nodes[control.name]):
                 return control.name
         return None
 
     # What waits for something.
 
     def _wait_window(self, title):
-        wait_for(lambda: self._windows.find(title), f"the window {title}")
-
-    def _wait_no_window(self, title):
-        wait_for(lambda: self._windows.find(title) is None, f"the window {title} gone")
+        wait_for(lambda: self._windows.has_keyboard(title), f"the keyboard in the window {title}")
 
     def _wait(self, what, told):
         wait_for(what, told)

@@ -31,12 +31,12 @@ def write(name, text, told=None):
     """Clicks an empty field and types."""
     return Row(
         told or f"types {text!r} in {name}",
-        [("click", name), ("type", text)],
+        [("click", name), ("wait keyboard", name), ("type", text)],
         [ask("hover", name), ask("click", name), ask("type", name, text=text)],
     )
 
 
-def menu(name, told=None, **answers):
+def menu(name, told=None):
     return Row(told or f"takes {name}", [("menu", name)], [ask("click", name)])
 
 

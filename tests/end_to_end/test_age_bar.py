@@ -28,7 +28,7 @@ class Watch(threading.Thread):
     """Looks at the screen as often as it can; keeps what was less than a whole window."""
 
     def __init__(self, day):
-        super().__init__()
+        super().__init__(daemon=True)  # a step that fails does not wait for it
         self._eye = day.eye
         self._texts = {name: day.hand.rectangle(name) for name in TEXTS}
         self._still = {name: day.hand.rectangle(name) for name in STILL}

@@ -102,7 +102,7 @@ def the_place(day):
     """Before all other windows, and behind them."""
 
     def state():
-        number = day.desk.windows("N.A.V.A.R.U.N")[0]
+        number = day.desk.window("N.A.V.A.R.U.N")
         return day.desk.run(["xprop", "-id", number, "_NET_WM_STATE"]).decode()
 
     yield Row("keeps the window before all others",

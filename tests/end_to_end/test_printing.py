@@ -51,7 +51,7 @@ def rows(day):
         for word in text.split():
             assert word in words, f"{word!r} of the pilot's page is not on the printed one: {words}"
     yield Row("opens the printer dialog and leaves it",
-              [("menu", "MnuImprime"), ("wait", lambda: any(role == "dialog" for _, role, _, _ in day.windows.all()), "the dialog"),
+              [("menu", "MnuImprime"), ("wait", day.windows.box_has_keyboard, "the dialog"),
                ("keys", "Escape")],
               [{"op": "answer", "value": 2}, ask("click", "MnuImprime")])
     yield from PERSONALITY

@@ -1,5 +1,7 @@
 """The windows of the running program, read by what the desktop tells screen readers."""
 
+import contextlib
+
 import gi
 
 gi.require_version("Atspi", "2.0")
@@ -8,6 +10,7 @@ from gi.repository import Atspi, GLib
 from model import Sayings, spoken
 
 STATE = Atspi.StateType
+BOXES = ("alert", "dialog")  # what a window that waits for an answer is told to be
 TITLES = {
     "Form1": "N.A.V.A.R.U.N",
     "Affiche_cycle": "Périodes",
@@ -72,32 +75,45 @@ class Windows:
                     self._app.set_cache_mask(Atspi.Cache.NONE)
         return self._app
 
+    def _of_each_shown(self, tell):
+        """What `tell` says of each window that is shown; one that goes meanwhile is passed over."""
+        for window in children(self.app):
+            with contextlib.suppress(GLib.Error):
+                if has(window, STATE.SHOWING):
+                    yield tell(window)
+
     def all(self):
         """All windows that are shown: their roles, names and places."""
-        return [
-            (window, window.get_role_name(), window.get_name(), extents(window))
-            for window in children(self.app)
-            if has(window, STATE.SHOWING)
-        ]
+        return list(self._of_each_shown(
+            lambda window: (window, window.get_role_name(), window.get_name(), extents(window))
+        ))
 
-    def find(self, name, role=None):
-        for window in children(self.app):
-            if window.get_name() == name and has(window, STATE.SHOWING):
-                if role is None or window.get_role_name() == role:
-                    return window
-        return None
+    def has_keyboard(self, name):
+        """Whether the window of that name takes what is typed; it is shown before it does."""
+        return any(self._of_each_shown(
+            lambda window: window.get_name() == name and has(window, STATE.ACTIVE)
+        ))
 
     def dialog(self):
         """A box that waits for its answer: its title and its words; nothing where there is none."""
-        for window in children(self.app):
-            if window.get_role_name() in ("alert", "dialog") and has(window, STATE.SHOWING):
-                labels = [
-                    node.get_name()
-                    for node in walk(window)
-                    if node.get_role_name() == "label" and node.get_name()
-                ]
-                return window.get_name(), labels
-        return None
+
+        def told(window):
+            if window.get_role_name() not in BOXES:
+                return None
+            labels = [
+                node.get_name()
+                for node in walk(window)
+                if node.get_role_name() == "label" and node.get_name()
+            ]
+            return window.get_name(), labels
+
+        return next(filter(None, self._of_each_shown(told)), None)
+
+    def box_has_keyboard(self):
+        """Whether such a box takes what is typed."""
+        return any(self._of_each_shown(
+            lambda window: window.get_role_name() in BOXES and has(window, STATE.ACTIVE)
+        ))
 
     def title_of(self, form):
         # The about box bears the name that it tells about.

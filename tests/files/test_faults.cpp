@@ -17,8 +17,6 @@ namespace {
 // Longer than any buffer between the program and the disk.
 std::string const long_note(40000, 'n');
 
-Json const set_clock{{"op", "clock"}, {"date", "21/11/2026"}, {"time", "10:15:00"}};
-Json const load{{"op", "load"}};
 Json click(char const* control) { return {{"op", "click"}, {"control", control}}; }
 Json set(char const* control, std::string const& value) {
     return {{"op", "set"}, {"control", control}, {"value", value}};
@@ -111,8 +109,7 @@ class Faults : public testing::TestWithParam<Scene> {
         fault.emplace_back("FAULT_FOLDER", (m_folder.path() / GetParam().below).string());
         fault.emplace_back("FAULT_MARK", mark().string());
         PilotProcess pilote{m_folder.path(), fault};
-        Json answer = pilote.ask(set_clock);
-        answer = pilote.ask(load);
+        Json answer = pilote.load();
         bool const started = answer.contains("ok");
         bool typed = false;  // the person stands in the fields, the diskette is red
         std::size_t place = 0;

@@ -16,8 +16,6 @@ namespace navarun::test {
 
 namespace {
 
-Json const set_clock{{"op", "clock"}, {"date", "21/11/2026"}, {"time", "10:15:00"}};
-Json const load{{"op", "load"}};
 Json const save{{"op", "click"}, {"control", "Command_Disk_Vert"}};
 
 Json set(char const* control, std::string const& value) {
@@ -43,9 +41,8 @@ TEST(Killed, AtAnyMomentOfASaveTheRecordIsWhole) {
     int leftovers = 0;
     for (int round = 0; round < kills; ++round) {
         PilotProcess pilote{folder.path()};
-        ASSERT_TRUE(pilote.ask(set_clock).contains("ok"));
         // The start after a kill comes up, and takes away what the kill left.
-        ASSERT_TRUE(pilote.ask(load).contains("ok")) << "after " << round << " kills";
+        ASSERT_TRUE(pilote.load().contains("ok")) << "after " << round << " kills";
         for (auto const& name : names_in(data)) ASSERT_EQ(name, "Dupont Zoe.fcy");
         pilote.ask(set("Text_prenom", "Zoe"));
         pilote.ask(set("Text_nom", "Dupont"));
@@ -76,8 +73,7 @@ TEST(Killed, AtAnyMomentOfASaveTheRecordIsWhole) {
     RecordProperty("found_second", found_second);
     RecordProperty("leftovers", leftovers);
     PilotProcess last{folder.path()};
-    last.ask(set_clock);
-    ASSERT_TRUE(last.ask(load).contains("ok"));
+    ASSERT_TRUE(last.load().contains("ok"));
     EXPECT_EQ(names_in(data), std::vector<std::string>{"Dupont Zoe.fcy"});
 }
 
@@ -165,8 +161,7 @@ TEST(Killed, AtAnyMomentOfAWorkingDayTheNextStartComesUpAndEveryRecordIsWhole) {
     for (int round = 0; round < kills; ++round) {
         SCOPED_TRACE("kill " + std::to_string(round));
         PilotProcess pilote{folder.path()};
-        ASSERT_TRUE(pilote.ask(set_clock).contains("ok"));
-        Json const up = pilote.ask(load);
+        Json const up = pilote.load();
         ASSERT_TRUE(up.contains("ok")) << up;
         if (first_book.empty()) first_book = file_content(resources / "INTERNET.DAT");
         // By what is done, not by the clock: a slow machine is killed as deep in its day.
@@ -223,8 +218,7 @@ TEST(Killed, LeftoversOfEveryFolderGoAtTheNextStart) {
         put_file(root / place / "autre.tmp", "reste");
     }
     PilotProcess pilote{folder.path()};
-    pilote.ask(set_clock);
-    ASSERT_TRUE(pilote.ask(load).contains("ok"));
+    ASSERT_TRUE(pilote.load().contains("ok"));
     for (char const* const place : {"", "DATA1", "DATA2", "IMAGE"}) {
         EXPECT_FALSE(std::filesystem::exists(root / place / "navarun.tmp")) << place;
         EXPECT_TRUE(std::filesystem::exists(root / place / "autre.tmp")) << place;
@@ -236,17 +230,14 @@ TEST(Killed, TheNextStartIsNotKeptOut) {
     TemporaryFolder folder;
     {
         PilotProcess first{folder.path()};
-        first.ask(set_clock);
-        ASSERT_TRUE(first.ask(load).contains("ok"));
+        ASSERT_TRUE(first.load().contains("ok"));
         PilotProcess second{folder.path()};
-        second.ask(set_clock);
-        EXPECT_TRUE(second.ask(load).contains("ended"));
+        EXPECT_TRUE(second.load().contains("ended"));
         EXPECT_EQ(second.end(), 0);
         first.kill();
     }
     PilotProcess next{folder.path()};
-    next.ask(set_clock);
-    EXPECT_TRUE(next.ask(load).contains("ok"));
+    EXPECT_TRUE(next.load().contains("ok"));
 }
 
 }  // namespace

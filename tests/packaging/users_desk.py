@@ -94,12 +94,8 @@ class UsersDesk(Desk):
 
     def window(self, title):
         """The visible window whose title is `title` wholly, once it takes what is typed."""
-        window = wait_for(lambda: self.windows(title), f"the window « {title} »")[0]
-
-        def active():
-            self.run(["xdotool", "windowactivate", window])
-            return self.run(["xdotool", "getactivewindow"]).decode().strip() == window
-        wait_for(active, f"the window « {title} » to become the active one")
+        window = super().window(title)
+        self.activate(window)
         return window
 
     def process_of(self, window):
@@ -116,6 +112,7 @@ class UsersDesk(Desk):
         """Closes the program's `window` as its frame does, says yes to its question and waits until
         its process has ended by itself."""
         process = self.process_of(window)
+        self.activate(window)
         self.press("alt+F4")
         self.answer_yes("QUITTER")
 

@@ -99,6 +99,7 @@ TEST(Processes, ManyKilledInTheirStartLeaveAFolderThatStarts) {
         PilotProcess doomed{folder.path()};
         doomed.ask({{"op", "clock"}, {"date", "21/11/2026"}, {"time", "10:15:00"}});
         // Without waiting for the start to end.
+        ASSERT_TRUE(doomed.send(R"({"op":"load"})"));
         doomed.kill();
     }
     PilotProcess last{folder.path()};

@@ -38,14 +38,15 @@ def end_with_parent():
 
 
 def wait_for(what, told, patience=PATIENCE):
-    """Calls `what` until it answers something, and returns that. Fails telling `told`."""
+    """Calls `what` until it answers something, and returns that. Fails telling `told`, which may
+    be a function, asked once it has failed."""
     end = time.monotonic() + patience
     while time.monotonic() < end:
         found = what()
         if found:
             return found
         time.sleep(0.05)
-    raise AssertionError(f"not seen: {told}")
+    raise AssertionError(f"not seen: {told() if callable(told) else told}")
 
 
 def _end(process):
@@ -171,6 +172,19 @@ class Desk:
         pattern = "^" + title.replace(".", r"\.") + "$"
         found = self.run(["xdotool", "search", "--onlyvisible", "--name", pattern])
         return found.decode().split()
+
+    def window(self, title):
+        """The visible window of exactly that title, once it is there."""
+        return wait_for(lambda: self.windows(title), f"the window « {title} »")[0]
+
+    def activate(self, window):
+        """Has `window` take what is typed."""
+
+        def active():
+            self.run(["xdotool", "windowactivate", window])
+            return self.run(["xdotool", "getactivewindow"]).decode().strip() == window
+
+        wait_for(active, f"{window} to become the active window")
 
     def geometry(self, window):
         """Left, top, width and height of a window without its frame, in pixels of the screen;

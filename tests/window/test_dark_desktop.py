@@ -43,7 +43,7 @@ class Look:
 
     def _look_at_other(self, other):
         process = self._desk.start_other([other, "/dev/null"])
-        number = wait_for(lambda: self._desk.windows("Fichiers"), "the other program")[0]
+        number = self._desk.window("Fichiers")
         black = lambda: self._look(number).max() == 0
         wait_for(lambda: not black(), "its picture")
         self.ground = self._look(number).mean()
@@ -51,8 +51,8 @@ class Look:
 
     def _look_at_windows(self):
         desk = self._desk
-        main = wait_for(lambda: desk.windows(MAIN), "the window")[0]
-        desk.run(["xdotool", "windowactivate", "--sync", main])
+        main = desk.window(MAIN)
+        desk.activate(main)
         # From the first name to a button, the one that generates: no cursor blinks.
         left, top, _, height = desk.geometry(main)
         desk.run(["xdotool", "mousemove", str(left + 696), str(top + height - 16), "click", "1"])
@@ -65,11 +65,11 @@ class Look:
             desk.press("Escape", "Escape")
             wait_for(lambda: self._is("desktop", self._look("root")), f"{name} closed")
         for title, keys in WINDOWS.items():
-            desk.run(["xdotool", "windowactivate", "--sync", main])
+            desk.activate(main)
             desk.press(*keys)
-            number = wait_for(lambda: desk.windows(title), f"{title} on the screen")[0]
+            number = desk.window(title)
+            desk.activate(number)
             self._take_still(title, number)
-            desk.run(["xdotool", "windowactivate", "--sync", number])
             desk.press("Escape" if title == "QUITTER" else "alt+F4")
             wait_for(lambda: not desk.windows(title), f"{title} gone")
 

@@ -48,23 +48,21 @@ def check(program, scale, width, height, pictures):
     with Desk(f"{width}x{height}") as desk:
         desk.start(program, QT_SCALE_FACTOR=str(scale))
 
-        def shown(title):
-            return wait_for(lambda: desk.windows(title), f"{title} on the screen")[0]
-
         def check_inside(title, window):
             wait_for(
                 lambda: is_inside(desk, window, width, height),
-                f"{title} within {width}x{height} at {scale}; it is at {framed(desk, window)}",
+                lambda: f"{title} within {width}x{height} at {scale}; "
+                f"it is at {framed(desk, window)}",
             )
 
-        main = shown(MAIN)
+        main = desk.window(MAIN)
         check_inside(MAIN, main)
         _, _, client_width, client_height = desk.geometry(main)
         if fits:
             assert abs(client_width - DESIGNED[0] * scale) <= scale, client_width
             assert client_height >= DESIGNED[1] * scale, client_height
             assert client_height <= (DESIGNED[1] + 60) * scale, client_height
-        desk.run(["xdotool", "windowactivate", "--sync", main])
+        desk.activate(main)
 
         def is_painted():
             colours = desk.run(["identify", "-format", "%k", picture(main)])
@@ -77,14 +75,14 @@ def check(program, scale, width, height, pictures):
 
         wait_for(is_painted, "something on the window")
         for title, keys in SMALL_WINDOWS.items():
-            desk.run(["xdotool", "windowactivate", "--sync", main])
+            desk.activate(main)
             desk.press(*keys)
-            window = shown(title)
+            window = desk.window(title)
             check_inside(title, window)
             if pictures:
                 name = title.strip().replace(" ", "-")
                 desk.picture(f"{pictures}/{scale}-{width}-{name}.png")
-            desk.run(["xdotool", "windowactivate", "--sync", window])
+            desk.activate(window)
             desk.press("alt+F4")
             wait_for(lambda: not desk.windows(title), f"{title} gone by Alt+F4")
         if pictures:
