@@ -79,10 +79,17 @@ std::optional<Date> read_date(std::string_view text) {
 
 std::optional<YearMonthDay> read_date_parts(std::string_view text) {
     // The dates that the program wrote itself are nearly all that it reads.
-    bool const as_written = text.size() == 10 && text[2] == '/' && text[5] == '/';
-    auto const first = as_written ? 2 : text.find('/');
+    if (text.size() == 10 && text[2] == '/' && text[5] == '/') {
+        int const day_number = read_field(text.substr(0, 2), 2);
+        int const month_number = read_field(text.substr(3, 2), 2);
+        int const year_number = read_field(text.substr(6, 4), 4);
+        if (day_number >= 0 && month_number >= 0 && year_number >= 0) {
+            return parts_of(day_number, month_number, year_number);
+        }
+    }
+    auto const first = text.find('/');
     if (first == std::string_view::npos) return {};
-    auto const second = as_written ? 5 : text.find('/', first + 1);
+    auto const second = text.find('/', first + 1);
     if (second == std::string_view::npos) return {};
     auto const day_text = without_blanks_at(text.substr(0, first), false, true);
     auto const month_text =
