@@ -75,7 +75,7 @@ def main(program):
             )
 
         def find(within, role, name):
-            """The first of that role and name; what goes meanwhile is passed over."""
+            """The first of that role and name; none where something goes while it is sought."""
             with contextlib.suppress(GLib.Error):
                 for node in walk(within):
                     if re.fullmatch(role, node.get_role_name()) and re.fullmatch(name, node.get_name()):
